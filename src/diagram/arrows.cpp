@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: MIT
+#include "diagram/arrows.h"
+
+#include "diagram/box_table.h"
+#include "diagram/worksheet.h"
+#include "platform/numbers.h"
+
+namespace quorvane {
+
+namespace {
+
+/// Heads are drawn with this value, which is part of their shape.
+constexpr double Pi = 3.14;
+
+DrawnShape Line(std::int32_t color, double x1, double y1, double x2, double y2) {
+    DrawnShape line;
+    line.Color = color;
+    line.X1 = x1;
+    line.Y1 = y1;
+    line.X2 = x2;
+    line.Y2 = y2;
+    return line;
+}
+
+DrawnShape Pie(std::int32_t color, double x, double y, double radius, double start, double end) {
+    DrawnShape pie;
+    pie.Shape = DrawnShape::Kind::Pie;
+    pie.Color = color;
+    pie.X1 = x;
+    pie.Y1 = y;
+    pie.Radius = radius;
+    pie.StartAngle = start;
+    pie.EndAngle = end;
+    return pie;
+}
+
+/// The head at the landing point x of destination D, by where source S stands.
+DrawnShape Head(std::int32_t color, const BoxControl& S, const BoxControl& D, double x) {
+    const double middle = S.Top + S.Height / 2;
+    if (S.Top < D.Top - D.Height / 2) return Pie(color, x, D.Top - 10, 100, -0.95, -2.2);
+    if (S.Top >= D.Top + D.Height / 2) {
+        return Pie(color, x, D.Top + D.Height + 10, 100, -0.95 - Pi, -2.2 - Pi);
+    }
+    if (S.Left < D.Left) {
+        return Pie(color, D.Left, middle, 150, -0.3 - Pi * 0.85, -1.2 - Pi * 0.75);
+    }
+    return Pie(color, D.Left + D.Width, middle, 100, -1.05 - 1.5 * Pi, -0.7);
+}
+
+}  // namespace
+
+void DrawArrow(int source, int destination, int entry, const char* /*mode*/, int document) {
+    if (destination <= 0) return;
+    Attempt([&] {
+        const auto color = Boxes[source].BoxLineColor[entry];
+        auto& window = DocumentWindow(document);
+        const auto& S = window.box[source];
+        const auto& D = window.box[destination];
+        const double x = D.Left + entry * (D.Width / 5);
+        const double y = S.Top + S.Height / 2;
+        window.Surface.push_back(
+            Line(color, S.Left + entry * (S.Width / 5), y, x, S.Top + D.Height / 2));
+        window.Surface.push_back(Line(color, x, y, x, D.Top));
+        window.Surface.push_back(Head(color, S, D, x));
+    });
+}
+
+int FindEntrySlot(int source, int destination) {
+    const auto& entries = BoxOrFree(destination).BoxIn;
+    for (int i = 1; i <= 3; ++i) {
+        if (entries[i] == source) return i;
+    }
+    return 1;
+}
+
+void RedrawDocument(const std::string& document) {
+    if (document.empty()) return;
+    const int number = TextToInt16(document);
+    DocumentWindow(number).Surface.clear();
+    for (int i = 1; i <= NextBox; ++i) {
+        const Box& box = BoxOrFree(i);
+        if (box.BoxDocument != number) continue;
+        for (int j = 1; j <= 5; ++j) {
+            const int peer = box.BoxOut[j];
+            if (peer >= 1) DrawArrow(i, peer, FindEntrySlot(i, peer), "b", number);
+        }
+    }
+}
+
+}  // namespace quorvane

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+namespace quorvane {
+
+/// Paints the arrow from box `source` to entry `entry` (1 to 3) of box `destination` on the surface
+/// of `document`: two legs and a head, by the places of the box controls. A destination of 0 or
+/// below, and any failure, paints nothing more. `mode` is always "b" and has no effect.
+void DrawArrow(int source, int destination, int entry, const char* mode, int document);
+
+/// The lowest entry of `destination` that holds `source`, 1 when there is none.
+int FindEntrySlot(int source, int destination);
+
+/// Clears the surface of the document with this number and paints all its arrows, by box and exit,
+/// so that later ones lie over earlier ones. "" paints nothing.
+void RedrawDocument(const std::string& document);
+
+}  // namespace quorvane

@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: MIT
+#include "files/document_file.h"
+
+#include <algorithm>
+#include <vector>
+
+#include "catalogue/icon_table.h"
+#include "diagram/arrows.h"
+#include "diagram/box_table.h"
+#include "diagram/worksheet.h"
+#include "files/recent_files.h"
+#include "platform/desktop.h"
+#include "platform/file_table.h"
+#include "platform/numbers.h"
+#include "platform/paths.h"
+
+namespace quorvane {
+
+const char* const DocumentFilter = "Quorvane Files (*.qvm)|*.qvm|All Files (*.*)|*.*";
+LoadOutcome lastLoad;
+
+namespace {
+
+/// The loader reads by this number, and a refused file keeps it: until the program ends, a further
+/// load then finds it taken.
+constexpr int LoadFile = 1;
+
+/// A load in progress. Up to the end of the first box a failing statement is reported and skipped;
+/// from then on it is skipped in silence.
+struct Load {
+    std::int16_t Document = 0;
+    bool Reporting = true;
+    bool Failed = false;
+
+    template <class Statement>
+    void Do(Statement&& statement) {
+        try {
+            statement();
+        } catch (const RuntimeError& error) {
+            if (error.Number == 62) lastLoad.ReadPastEnd = true;
+            if (!Reporting) return;
+            Failed = true;
+            Tell("File not found !", Icon::Critical);
+        }
+    }
+};
+
+/// Takes the fields of a line from left to right; behind the last one they are empty.
+struct Fields {
+    std::string_view Rest;
+
+    std::string_view Next() {
+        const auto end = FindFieldEnd(Rest);
+        const auto field = Rest.substr(0, end - 1);
+        Rest = end <= Rest.size() ? Rest.substr(end) : std::string_view();
+        return field;
+    }
+};
+
+/// The next line of the file, empty when it can't be read.
+Fields NextLine(Load& load) {
+    Fields fields;
+    load.Do([&] { fields.Rest = LineInput(LoadFile); });
+    return fields;
+}
+
+std::int16_t ReadBoxCount(Load& load) {
+    std::int16_t count = 0;
+    load.Do([&] {
+        const auto number = TextToInt16(LineInput(LoadFile));
+        if (number < 0) throw RuntimeError(5);
+        count = number;
+    });
+    return count;
+}
+
+void ReadSlot(Load& load, Fields& fields, std::int16_t& slot, std::int16_t base) {
+    const auto field = fields.Next();
+    load.Do([&] {
+        const auto number = TextToInt16(field);
+        slot = number > 0 ? ToInt16(number + base - 1) : number;
+    });
+}
+
+void ReadTypeAndText(Load& load, Box& box) {
+    auto fields = NextLine(load);
+    box.BoxType = fields.Next();
+    // A text that held line breaks reads with ";;" in their place: they are not put back.
+    box.BoxText = fields.Next();
+}
+
+void ReadSlots(Load& load, Box& box, std::int16_t base) {
+    auto fields = NextLine(load);
+    for (auto& entry : box.BoxIn) ReadSlot(load, fields, entry, base);
+    for (int j = 1; j <= 5; ++j) {
+        ReadSlot(load, fields, box.BoxOut[j], base);
+        const auto color = fields.Next();
+        load.Do([&] { box.BoxLineColor[j] = TextToInt32(color); });
+    }
+}
+
+void PlaceBox(Load& load, Box& box, std::int16_t number) {
+    auto fields = NextLine(load);
+    load.Do([&] { DocumentWindow(load.Document).box.Load(number); });
+    box.BoxDocument = load.Document;
+    const auto top = fields.Next();
+    const auto left = fields.Next();
+    load.Do([&] { box.BoxTop = TextToInt32(top); });
+    load.Do([&] { box.BoxLeft = TextToInt32(left); });
+    load.Do([&] {
+        auto& window = DocumentWindow(load.Document);
+        auto& control = window.box[number];
+        control.Top = static_cast<double>(box.BoxTop) - window.scrV.Value;
+        control.Left = static_cast<double>(box.BoxLeft) - window.scrH.Value;
+    });
+}
+
+void ShowBox(Load& load, std::int16_t number) {
+    load.Do([&] {
+        SelectBoxIcon(BoxIconKey(number));
+        auto& control = DocumentWindow(load.Document).box[number];
+        control.Picture = Clip();
+        control.Visible = true;
+    });
+}
+
+/// False when the file ends before its last box.
+bool ReadBoxes(Load& load, std::int16_t base, std::int16_t count) {
+    for (int i = base; i < base + count; ++i) {
+        bool ended = false;
+        load.Do([&] { ended = EndOfFile(LoadFile); });
+        if (ended) {
+            Tell("Abnormal termination of file", Icon::Exclamation);
+            CloseFile(LoadFile);
+            return false;
+        }
+        Box& box = Boxes[i];
+        box = Box();
+        const auto number = static_cast<std::int16_t>(i);
+        ReadTypeAndText(load, box);
+        ReadSlots(load, box, base);
+        PlaceBox(load, box, number);
+        load.Reporting = false;
+        ShowBox(load, number);
+    }
+    return true;
+}
+
+/// The diagram being saved: which table index has which number in the file.
+std::vector<std::int16_t> numberedBoxes;
+
+/// Overwrites each CR and the character behind it by ";;", so that the text fits on a line.
+std::string WithoutLineBreaks(std::string text) {
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '\r') continue;
+        text[i] = ';';
+        if (i + 1 < text.size()) text[i + 1] = ';';
+    }
+    return text;
+}
+
+/// The three lines of one box.
+std::string BoxRecord(std::int16_t number) {
+    const Box& box = Boxes[number];
+    std::string record = box.BoxType + "~";
+    MapBoxNumber(number);
+    record += WithoutLineBreaks(box.BoxText) + "\r\n";
+    for (const auto entry : box.BoxIn) {
+        AppendNumber(record, MapBoxNumber(entry));
+        record += '~';
+    }
+    for (int j = 1; j <= 5; ++j) {
+        AppendNumber(record, MapBoxNumber(box.BoxOut[j]));
+        record += '~';
+        AppendNumber(record, box.BoxLineColor[j]);
+        record += '~';
+    }
+    record.pop_back();
+    record += "\r\n";
+    AppendNumber(record, box.BoxTop);
+    record += '~';
+    AppendNumber(record, box.BoxLeft);
+    record += "~\r\n";
+    return record;
+}
+
+/// The whole file: the count, then the records in the order in which the boxes were first
+/// mentioned.
+std::string DocumentText(std::int16_t document) {
+    numberedBoxes.clear();
+    std::vector<std::int16_t> tableIndices;
+    std::vector<std::string> records;
+    for (std::int16_t i = 1; i < NextBox; ++i) {
+        if (Boxes[i].BoxDocument != document) continue;
+        tableIndices.push_back(i);
+        records.push_back(BoxRecord(i));
+    }
+    std::string text = NumberText(static_cast<std::int64_t>(records.size())) + "\r\n";
+    for (const auto numbered : numberedBoxes) {
+        const auto found = std::find(tableIndices.begin(), tableIndices.end(), numbered);
+        if (found == tableIndices.end()) continue;  // a link to a box outside this document
+        text += records[static_cast<std::size_t>(found - tableIndices.begin())];
+    }
+    return text;
+}
+
+/// Writes the text and a line end. A failing step is skipped in silence and leaves "0~" in the
+/// text.
+void WriteDocument(const std::string& name, std::string text) {
+    const auto Do = [&](auto&& statement) {
+        if (!Attempt(statement)) text += "0~";
+    };
+    int number = 0;
+    Do([&] { number = FreeFile(); });
+    Do([&] { OpenForOutput(number, name); });
+    Do([&] { Print(number, text + "\r\n"); });
+    Do([&] { CloseFile(number); });
+}
+
+bool IsUntitled(const std::string& caption) { return caption.starts_with("Untitled"); }
+
+/// The name to save under; false when the user cancelled.
+bool AskForName(const std::string& caption, std::string& name) {
+    const std::string preset = IsUntitled(caption) ? "" : caption;
+    if (!Attempt([&] { name = desktop->SaveFileDialog(DocumentFilter, preset); })) return false;
+    return name != "*.qvm";
+}
+
+}  // namespace
+
+std::size_t FindFieldEnd(std::string_view text) {
+    const auto at = text.find('~');
+    return (at == std::string_view::npos ? text.size() : at) + 1;
+}
+
+std::int16_t MapBoxNumber(std::int16_t tableIndex) {
+    if (tableIndex <= 0) return tableIndex;
+    const auto found = std::find(numberedBoxes.begin(), numberedBoxes.end(), tableIndex);
+    const auto position = found - numberedBoxes.begin() + 1;
+    if (found == numberedBoxes.end()) numberedBoxes.push_back(tableIndex);
+    return static_cast<std::int16_t>(position);
+}
+
+std::int16_t NewDocument() {
+    const auto number = AllocateDocument();
+    auto& window = Documents[number];
+    if (!window) window = std::make_unique<Worksheet>();
+    window->Tag = NumberText(number);
+    window->Caption = "Untitled:" + window->Tag;
+    window->mnuOptionsToolbox.Checked = frmMDI.mnuOptionsToolbox.Checked;
+    window->mnuOptionsCurrentToolbox.Caption = frmMDI.mnuOptionsCurrentToolbox.Caption;
+    EditMode = 1;
+    for (int k = 1; k <= 4; ++k) {
+        if (frmMDI.mnuFileArray[k].Visible) window->mnuFileArray[k] = frmMDI.mnuFileArray[k];
+    }
+    if (frmMDI.mnuFileArray[0].Visible) window->mnuFileArray[0].Visible = true;
+    window->Shown = true;
+    return number;
+}
+
+void LoadDocument(const std::string& name) {
+    const auto remembered = CurrentDirectory();
+    std::string path(FileNameOf(name));
+    if (name.empty() && !Attempt([&] { path = desktop->OpenFileDialog(DocumentFilter, ""); })) {
+        return;
+    }
+    LoadDocumentFile(path);
+    if (lastLoad.Finished) Attempt([&] { ChangeDirectory(remembered); });
+}
+
+void LoadDocumentFile(const std::string& path) {
+    lastLoad = {};
+    Load load;
+    load.Document = NewDocument();
+    load.Do([&] { OpenForInput(LoadFile, path); });
+    if (load.Failed) return;
+    lastLoad.Opened = true;
+    const auto count = ReadBoxCount(load);
+    if (count + NextBox > MaxBoxes + 1) {
+        Tell(
+            "Loading this file will result in more than the maximum number of boxes allowed, so it "
+            "will not load ...",
+            Icon::None);
+        return;
+    }
+    if (NextBox == 0) NextBox = 1;
+    if (!ReadBoxes(load, NextBox, count)) return;
+    NextBox = static_cast<std::int16_t>(NextBox + count);
+    auto& window = DocumentWindow(load.Document);
+    load.Do([&] { RedrawDocument(window.Tag); });
+    CloseFile(LoadFile);
+    lastLoad.Finished = true;
+    UpdateBoxGauge(BoxTableFill());
+    window.Caption = path;
+    ClearSelectionRect(window.Tag);
+}
+
+void SaveDocument(std::int16_t document, std::int16_t mode) {
+    auto& window = DocumentWindow(document);
+    std::string name = window.Caption;
+    if (mode == 2 || IsUntitled(window.Caption)) {
+        if (!AskForName(window.Caption, name)) return;
+    }
+    WriteDocument(name, DocumentText(document));
+    AddRecentFile(name);
+    window.Caption = name;
+    DocumentStates[document].Modified = 0;
+}
+
+}  // namespace quorvane

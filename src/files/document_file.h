@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace quorvane {
+
+/// The filter of the dialogs that load and save a diagram.
+extern const char* const DocumentFilter;
+
+/// How the last load ended. A load reports by messages; this is for a caller that can't see them.
+struct LoadOutcome {
+    bool Opened = false;
+    bool Finished = false;  ///< It came to its end: not refused for too many boxes, not cut short
+    bool ReadPastEnd = false;  ///< A line was asked for behind the end of the file
+};
+extern LoadOutcome lastLoad;
+
+/// Makes a document and its window, captioned "Untitled:" and its number. Returns the number.
+std::int16_t NewDocument();
+
+/// Loads a diagram behind the boxes that are in the table. An empty name asks the user for a file;
+/// of any other only the last component counts, which is looked for in the current folder.
+void LoadDocument(const std::string& name);
+
+/// Loads the file at `path` into a new document. The caption becomes the path.
+void LoadDocumentFile(const std::string& path);
+
+/// Saves a document, 1 under its name or 2 under a name that the user gives. A document whose
+/// caption begins with "Untitled" is always asked for.
+void SaveDocument(std::int16_t document, std::int16_t mode);
+
+/// Numbers boxes by their first mention while saving; 0 and below stay as they are.
+std::int16_t MapBoxNumber(std::int16_t tableIndex);
+
+/// The position, from 1, of the first "~", or one behind the end of a text without one.
+std::size_t FindFieldEnd(std::string_view text);
+
+}  // namespace quorvane

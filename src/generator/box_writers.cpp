@@ -1,0 +1,216 @@
+// SPDX-License-Identifier: MIT
+#include "generator/box_writers.h"
+
+#include "catalogue/matrix_input.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "platform/paths.h"
+
+namespace quorvane {
+
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+/// Begins with "Input", or with "input" where both count.
+bool BeginsWithInput(std::string_view text, bool anyCase) {
+    return text.starts_with("Input") || (anyCase && text.starts_with("input"));
+}
+
+/// The variable that feeds the entry whose digit stands behind the word.
+std::string FeederName(int box, std::string_view behindWord) {
+    if (behindWord.empty() || !IsDigit(behindWord[0])) throw RuntimeError(13);
+    return BoxName(Boxes[box].BoxIn[behindWord[0] - '0']);
+}
+
+/// Puts the names of the feeders in place of "Input1" to "Input3". The scan ends at the position at
+/// which the text ended before it, so that longer names push the last words out of its reach. A
+/// word that can't be replaced is a run-time error, and stays under the ignore policy. A plot's
+/// text takes only the capital form, and a word without a digit is not meant there.
+std::string WithFeeders(const Run& run, int box, std::string_view text, bool isPlot) {
+    constexpr std::size_t wordLength = 5;
+    const auto bound = text.size();
+    std::string filled;
+    filled.reserve(bound);
+    while (!text.empty() && filled.size() < bound) {
+        const auto behind = text.substr(std::min(wordLength, text.size()));
+        const bool meant =
+            BeginsWithInput(text, !isPlot) && (!isPlot || (!behind.empty() && IsDigit(behind[0])));
+        if (meant && Attempt(run.Policy, [&] { filled += FeederName(box, behind); })) {
+            text.remove_prefix(wordLength + 1);
+        } else {
+            filled += text[0];
+            text.remove_prefix(1);
+        }
+    }
+    filled += text;
+    return filled;
+}
+
+/// "box{id}=", to which a line adds the rest.
+std::string Assigned(int box) { return BoxName(box) + "="; }
+
+}  // namespace
+
+bool WriteKeyboardInput(Run& run, int box, int /*slot*/) {
+    auto& text = Boxes[box].BoxText;
+    text = desktop->InputBox("Enter the data devided by spaces", "Quorvane: " + BoxName(box), text);
+    WriteLine(run, Assigned(box) + "[ " + text + " ];");
+    return true;
+}
+
+bool WriteMatrixInput(Run& run, int box, int /*slot*/) {
+    frmMatrix_Load();
+    desktop->ShowModal("frmMatrix");
+    WriteLine(run, Assigned(box) + " " + frmMatrix.mat.Text + " ]; ");
+    frmMatrix = {};
+    return true;
+}
+
+bool WriteMatrixMake(Run& run, int box, int /*slot*/) {
+    const Box& record = Boxes[box];
+    if (record.BoxIn[1] == LockedSlot && record.BoxIn[2] == LockedSlot) {
+        WriteLine(run, Assigned(box) + record.BoxText + ";");
+        return true;
+    }
+    if (!Ready(run, box)) return false;
+    const auto bracket = record.BoxText.find('(');
+    if (bracket != std::string::npos) run.workText = record.BoxText.substr(0, bracket + 1);
+    WriteLine(run, Assigned(box) + run.workText + BoxName(record.BoxIn[1]) + "," +
+                       NumberText(record.BoxIn[2]) + ");");
+    return true;
+}
+
+bool WriteVectorMake(Run& run, int box, int /*slot*/) {
+    const Box& record = Boxes[box];
+    const auto& in = record.BoxIn;
+    if (in[1] == LockedSlot && in[2] == LockedSlot && in[3] == LockedSlot) {
+        WriteLine(run, Assigned(box) + record.BoxText);
+        return true;
+    }
+    if (!Ready(run, box)) return false;
+    WriteLine(run, Assigned(box) + "[" + BoxName(in[1]) + ":" + BoxName(in[2]) + ":" +
+                       BoxName(in[3]) + "];");
+    return true;
+}
+
+bool WriteFileInput(Run& run, int box, int /*slot*/) {
+    run.Policy = ErrorPolicy::Ignore;
+    std::string path;
+    const std::string filter = "Text Files (*.txt)|*.txt|All Files (*.*)|*.*";
+    if (!Attempt([&] { path = desktop->OpenFileDialog(filter, ""); })) return true;
+    constexpr std::size_t ending = 4;
+    auto& name = run.workText;
+    name = FileNameOf(path);
+    if (path.size() >= ending && path[path.size() - ending] == '.') {
+        WriteLine(run, "load " + path + ";");
+        name.resize(name.size() - std::min(ending, name.size()));
+    } else {
+        WriteLine(run, "load " + path + " -ascii ;");
+    }
+    WriteLine(run, Assigned(box) + name + ";");
+    return true;
+}
+
+bool WriteFileOutput(Run& run, int box, int /*slot*/) {
+    run.Policy = ErrorPolicy::Ignore;
+    std::string path;
+    const std::string filter = "Mathlab Files (*.m)|*.m|All Files (*.*)|*.*";
+    if (!Attempt([&] { path = desktop->SaveFileDialog(filter, ""); })) return true;
+    WriteLine(run, "save " + path + " " + BoxName(Boxes[box].BoxIn[1]) + " -ascii ;");
+    return true;
+}
+
+bool WriteSum(Run& run, int box, int /*slot*/) {
+    const Box& record = Boxes[box];
+    std::string sum;
+    int inputs = 0;
+    for (const auto feeder : record.BoxIn) {
+        if (feeder == 0) continue;
+        ++inputs;
+        sum += BoxName(feeder) + "+" + record.BoxText;
+    }
+    if (inputs < 2) return true;
+    sum.pop_back();
+    run.workText = sum;
+    WriteLine(run, Assigned(box) + sum + ";");
+    return true;
+}
+
+bool WriteFunction(Run& run, int box, int /*slot*/) {
+    constexpr std::string_view output = "Output";
+    std::string text = Boxes[box].BoxText;
+    if (text.starts_with(output)) {
+        text.replace(0, output.size(), BoxName(box));
+    } else {
+        text.insert(0, Assigned(box) + "0;");
+    }
+    run.workText = WithFeeders(run, box, text, false);
+    WriteLine(run, run.workText);
+    return true;
+}
+
+bool WriteLogic(Run& run, int box, int /*slot*/) {
+    const Box& record = Boxes[box];
+    const auto& text = record.BoxText;
+    const auto first = BoxName(record.BoxIn[1]);
+    const auto second = BoxName(record.BoxIn[2]);
+    if (text == "|" || text == "&") WriteLine(run, Assigned(box) + first + text + second + ";");
+    if (text == "~") WriteLine(run, Assigned(box) + "~" + first + ";");
+    if (text == "xor") WriteLine(run, Assigned(box) + "xor(" + first + "," + second + ");");
+    return true;
+}
+
+bool WriteMatrixManipulation(Run& run, int box, int /*slot*/) {
+    const auto& text = Boxes[box].BoxText;
+    const auto matrix = BoxName(Boxes[box].BoxIn[1]);
+    if (text == "fliplr" || text == "flipud" || text == "rot90" || text == "tril" ||
+        text == "triu") {
+        WriteLine(run, Assigned(box) + text + "(" + matrix + ");");
+    } else if (text == "transpose") {
+        WriteLine(run, Assigned(box) + matrix + "';");
+    } else {
+        run.workText = text.substr(std::min<std::size_t>(2, text.size()));
+        WriteLine(run, Assigned(box) + "diag(" + matrix + "," + run.workText + ");");
+    }
+    return true;
+}
+
+bool WriteSplit(Run& run, int box, int /*slot*/) {
+    const auto& text = Boxes[box].BoxText;
+    const auto matrix = BoxName(Boxes[box].BoxIn[1]);
+    run.workText = text.substr(std::min<std::size_t>(3, text.size()));
+    const auto& range = run.workText;
+    WriteLine(run, Assigned(box) + matrix +
+                       (text.starts_with("Row") ? "(" + range + ",:);" : "(:," + range + ");"));
+    return true;
+}
+
+bool WritePause(Run& run, int box, int /*slot*/) {
+    const Box& record = Boxes[box];
+    const int feeder = record.BoxIn[1];
+    if (feeder > 0 && Boxes[feeder].BoxType != "Dummy Input") {
+        WriteLine(run, Assigned(box) + BoxName(feeder) + ";");
+    }
+    WriteLine(run, record.BoxText.empty() ? "pause;" : "pause(" + record.BoxText + ");");
+    return true;
+}
+
+bool WritePlot(Run& run, int box, int /*slot*/) {
+    const std::string_view text = Boxes[box].BoxText;
+    const auto kindEnd = text.find(';');
+    const auto commands = kindEnd == std::string_view::npos ? text : text.substr(kindEnd + 1);
+    auto& filled = run.workText;
+    filled = WithFeeders(run, box, commands, true);
+    if (run.Mode == 0 && !filled.ends_with(";")) filled += ";";
+    if (filled.starts_with(";")) filled.erase(0, 1);
+    run.scriptText += filled;
+    return true;
+}
+
+bool WriteTrash(Run& /*run*/, int /*box*/, int /*slot*/) {
+    Tell("What's the use of collecting data and dumping it ???", Icon::Question);
+    return true;
+}
+
+}  // namespace quorvane

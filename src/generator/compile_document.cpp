@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: MIT
+#include "generator/compile_document.h"
+
+#include <algorithm>
+
+#include "diagram/worksheet.h"
+#include "files/settings.h"
+#include "generator/emission_chain.h"
+#include "generator/front.h"
+#include "generator/output_targets.h"
+#include "generator/run.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+
+namespace quorvane {
+
+RunEnd lastRunEnd = RunEnd::None;
+
+namespace {
+
+constexpr std::string_view IndentStep = "   ";
+
+/// Source boxes come first: all entries locked, and a type that ends so. With the preference on,
+/// every box without an arrow into it follows.
+void AddStartBoxes(const Run& run) {
+    const auto allEntriesAre = [](const Box& box, std::int16_t value) {
+        return std::all_of(box.BoxIn.begin(), box.BoxIn.end(),
+                           [value](auto entry) { return entry == value; });
+    };
+    for (std::int16_t i = 1; i < NextBox; ++i) {
+        const Box& box = Boxes[i];
+        if (box.BoxType.ends_with("Input") && allEntriesAre(box, LockedSlot) &&
+            box.BoxDocument == run.Document) {
+            AddToFront(i);
+        }
+    }
+    if (frmPrefs.chkInput.Value != 1) return;
+    for (std::int16_t i = 1; i < NextBox; ++i) {
+        if (allEntriesAre(Boxes[i], 0) && Boxes[i].BoxDocument == run.Document) AddToFront(i);
+    }
+}
+
+/// Only slots 1 to 5 tell whether there is anything to start with.
+bool HasStartBox() {
+    for (int slot = 1; slot <= 5; ++slot) {
+        if (Front[slot] != 0) return true;
+    }
+    return false;
+}
+
+/// The first line of a box stands one step further in for each open block. Blanks that a box left
+/// behind without writing serve the next one.
+void Indent(Run& run) {
+    if (run.scriptText.ends_with(IndentStep)) return;
+    for (int depth = 0; depth < nestingDepth; ++depth) run.scriptText += IndentStep;
+}
+
+/// The boxes that `box` feeds enter the front. An "If" has opened its arms itself, and goes on by
+/// its further exits.
+void AddSuccessors(const Box& box) {
+    const bool isIf = box.BoxType == "If";
+    for (int j = 1; j <= 5; ++j) {
+        if (isIf && (j == 1 || (j == 2 && box.BoxText.starts_with("else")))) continue;
+        if (box.BoxOut[j] != 0) AddToFront(box.BoxOut[j]);
+    }
+}
+
+/// Asks what to do about the suspect. False when the run is to be broken off.
+bool AskAboutStall(Run& run, int slot) {
+    const auto answer = desktop->MsgBox(
+        {"There seems to be an infinite loop here, whereby " + BoxName(run.stallBox) + " (" +
+             ReadBox(run, run.stallBox).BoxType + ") cannot be processed.\r\n" +
+             "Do you want to retry, abort or ignore this box ?",
+         Icon::Critical, Buttons::AbortRetryIgnore});
+    if (answer == Answer::Abort) return false;
+    if (answer == Answer::Ignore) Front[slot] = 0;
+    run.stallBox = 0;
+    return true;
+}
+
+/// A box did not finish. The first failure after a success makes it the suspect, two more count,
+/// and the next asks.
+bool Stall(Run& run, int slot) {
+    const int visited = Front[slot];
+    if (visited <= 0) return true;
+    if (run.stallBox <= 0) {
+        run.stallBox = visited;
+        return true;
+    }
+    if (run.stallCount > 1) return AskAboutStall(run, slot);
+    ++run.stallCount;
+    return true;
+}
+
+bool Succeed(Run& run, int slot, const Box& box) {
+    run.stallBox = 0;
+    run.stallCount = 0;
+    AddSuccessors(box);
+    if (run.Mode == 0 && !SendToMatlab(run, box.BoxType)) return false;
+    RemoveFromFront(slot);
+    ++run.boxesDone;
+    UpdateBoxGauge(ToInt16(run.boxesDone * 100.0 / (NextBox - 1)));
+    return true;
+}
+
+/// Visits one slot. The box in it is read anew where it counts, since a box that opens or closes a
+/// block replaces the whole front. False when the run is to be broken off.
+bool VisitSlot(Run& run, int slot) {
+    const int found = Front[slot];
+    const Box& box = ReadBox(run, found);
+    if (box.BoxMark == "OK") {
+        RemoveFromFront(slot);
+        return true;
+    }
+    if (found != 0 && box.BoxText != "Deleted") {
+        Indent(run);
+        EmitBox(run, found, slot);
+    }
+    const Box& now = ReadBox(run, Front[slot]);
+    return now.BoxMark == "OK" ? Succeed(run, slot, now) : Stall(run, slot);
+}
+
+/// A front that holds nothing but numbers below 0, which stand for no box, would be walked for
+/// ever.
+void RefuseLostFront() {
+    const auto* slots = Front.Data();
+    const auto* end = slots + frontWidth + 1;
+    const bool lost = std::any_of(slots + 1, end, [](auto box) { return box < 0; }) &&
+                      std::none_of(slots + 1, end, [](auto box) { return box > 0; });
+    if (lost) throw RuntimeError(9);
+}
+
+/// Walks the front until it is empty. False when the run was broken off.
+bool WalkFront(Run& run) {
+    while (!IsFrontEmpty()) {
+        const int bound = frontWidth;
+        for (int slot = 1; slot <= bound; ++slot) {
+            if (!VisitSlot(run, slot)) return false;
+        }
+        RefuseLostFront();
+    }
+    return true;
+}
+
+std::string Finish(Run& run) {
+    ClearMarks();
+    Tell("Done !", Icon::Information);
+    UpdateBoxGauge(BoxTableFill());
+    SetPointerAll(PointerDefault);
+    lastRunEnd = RunEnd::Done;
+    return run.Mode == 0 ? std::string() : std::move(run.scriptText);
+}
+
+}  // namespace
+
+std::string CompileDocument(std::int16_t mode, const std::string& documentTag) {
+    Run run;
+    run.Mode = mode;
+    run.Document = TextToInt16(documentTag);
+    lastRunEnd = RunEnd::None;
+    SetPointerAll(PointerHourglass);
+    ClearFront();
+    AddStartBoxes(run);
+    if (!HasStartBox()) {
+        Tell("There are no inputs !", Icon::Exclamation);
+        SetPointerAll(PointerDefault);
+        lastRunEnd = RunEnd::Refused;
+        return "";
+    }
+    try {
+        if (WalkFront(run)) return Finish(run);
+    } catch (...) {
+        ClearMarks();
+        SetPointerAll(PointerDefault);
+        throw;
+    }
+    ClearMarks();
+    SetPointerAll(PointerDefault);
+    lastRunEnd = RunEnd::Aborted;
+    return "";
+}
+
+}  // namespace quorvane

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace quorvane {
+
+/// How the last run ended: None before and during a run, Refused without a start box, Aborted by
+/// the user's answer, Done at its end.
+enum class RunEnd { None, Refused, Aborted, Done };
+extern RunEnd lastRunEnd;
+
+/// Turns the boxes of the document with this number into script. With `mode` 1 the script comes
+/// back; with `mode` 0 each box's text is sent to MATLAB as soon as it is made, and "" comes back.
+/// A refused or aborted run gives "". A run-time error that no policy drops ends the run and is
+/// thrown on.
+std::string CompileDocument(std::int16_t mode, const std::string& documentTag);
+
+}  // namespace quorvane

@@ -1,0 +1,113 @@
+// SPDX-License-Identifier: MIT
+#include "generator/control_flow.h"
+
+#include "generator/front.h"
+#include "platform/numbers.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::string_view ElseMark = "else";
+
+/// A block opens only when no other box of the front could go on instead. The feeders are asked
+/// first, since asking writes the lines of Pickups.
+bool MayOpen(Run& run, int box) {
+    const bool ready = Ready(run, box);
+    const bool alone = AttemptValue(run.Policy, false, [&] { return NoOtherBoxReady(box); });
+    return ready && alone;
+}
+
+/// Takes one level of indentation back: a closing box has got that of the inside of its block.
+void Strip(Run& run) {
+    if (run.scriptText.ends_with("   ")) run.scriptText.resize(run.scriptText.size() - 3);
+}
+
+}  // namespace
+
+bool WriteLoop(Run& run, int box, int slot) {
+    if (!MayOpen(run, box)) return false;
+    PushFront(run.Policy, slot);
+    const Box& record = Boxes[box];
+    if (record.BoxType == "For") {
+        WriteLine(run, "for " + BoxName(box) + "=" + record.BoxText);
+    } else {
+        WriteLine(run, "while " + record.BoxText);
+    }
+    return true;
+}
+
+bool WriteNext(Run& run, int box, int slot) {
+    Strip(run);
+    run.Policy = ErrorPolicy::Ignore;
+    Attempt([&] { PopFront(); });
+    // The box that waited in this slot makes room, so that the driver goes on with the Next box.
+    const auto waiting = Front[slot];
+    Front[slot] = static_cast<std::int16_t>(box);
+    if (waiting != 0) AddToFront(waiting);
+    WriteLine(run, "end;");
+    WriteLine(run, BoxName(box) + "=" + BoxName(Boxes[box].BoxIn[1]) + ";");
+    return true;
+}
+
+bool WriteEndSubroutine(Run& run, int box, int /*slot*/) {
+    // The box that feeds the call stands in slot 0 of the frame; its first exit leads to the
+    // caller.
+    const int caller =
+        AttemptValue(run.Policy, 0, [&] { return int{Boxes[Frame(nestingDepth)[0]].BoxOut[1]}; });
+    run.Policy = ErrorPolicy::Ignore;
+    Attempt([&] { PopFront(); });
+    WriteLine(run, BoxName(caller) + "=" + BoxName(Boxes[box].BoxIn[1]) + ";");
+    return true;
+}
+
+bool WriteIf(Run& run, int box, int /*slot*/) {
+    if (!MayOpen(run, box)) return false;
+    const Box& record = Boxes[box];
+    const bool hasElse = record.BoxText.starts_with(ElseMark);
+    run.workText = hasElse ? record.BoxText.substr(ElseMark.size()) : record.BoxText;
+    WriteLine(run, BoxName(box) + "=" + BoxName(record.BoxIn[1]) + ";");
+    WriteLine(run, "if (" + run.workText + "),");
+    PushFront(run.Policy, -1);
+    Front[1] = record.BoxOut[1];
+    if (hasElse) {
+        PushFront(run.Policy, -1);
+        Front[1] = record.BoxOut[2];
+        Front[0] = static_cast<std::int16_t>(box);
+    }
+    return true;
+}
+
+bool WriteEndIf(Run& run, int /*box*/, int /*slot*/) {
+    Strip(run);
+    WriteLine(run, Front[0] > 0 ? "else" : "end;");
+    Attempt(run.Policy, [&] { PopFront(); });
+    return false;
+}
+
+bool IsSubroutineCall(std::string_view type) { return type.starts_with("Insert Subroutine"); }
+
+bool WriteSubroutineCall(Run& run, int box, int /*slot*/) {
+    if (run.stallCount > 0 ? !MayOpen(run, box) : !Ready(run, box)) return false;
+    constexpr std::size_t prefixLength = 18;  // with the blank behind the words
+    const Box& record = Boxes[box];
+    run.workText = record.BoxType.substr(std::min(prefixLength, record.BoxType.size()));
+    run.workText += " Subroutine";
+    PushFront(run.Policy, -1);
+    for (std::int16_t j = 1; j < NextBox; ++j) {
+        if (Boxes[j].BoxType != run.workText) continue;
+        Attempt(run.Policy, [&] { Frame(nestingDepth)[0] = record.BoxIn[1]; });
+        AddToFront(j);
+    }
+    return true;
+}
+
+bool IsSubroutineHead(std::string_view type) { return type.ends_with("Subroutine"); }
+
+bool WriteSubroutineHead(Run& run, int box, int /*slot*/) {
+    Attempt(run.Policy,
+            [&] { WriteLine(run, BoxName(box) + "=" + BoxName(Frame(nestingDepth)[0]) + ";"); });
+    return true;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: MIT
+#include "generator/front.h"
+
+#include <algorithm>
+
+#include "diagram/box_table.h"
+#include "platform/numbers.h"
+
+namespace quorvane {
+
+GrowableArray<std::int16_t> Front(5);
+std::int16_t frontWidth = 5;
+GrowableArray<GrowableArray<std::int16_t>> FrameStack;
+std::int16_t nestingDepth = 0;
+
+namespace {
+
+constexpr int FrontStep = 5;
+
+bool IsDone(int box) { return Boxes[box].BoxMark == "OK"; }
+
+void SetFrameWidth() {
+    for (int i = 0; i <= FrameStack.UpperBound(); ++i) FrameStack[i].Resize(frontWidth);
+}
+
+/// One frame for each open block. It is not made smaller when the last block closes: the next push
+/// finds the old frame there, and a spared slot keeps what it held.
+void SetFrameCount() {
+    if (nestingDepth <= 0) return;
+    FrameStack.Resize(nestingDepth);
+    SetFrameWidth();
+}
+
+}  // namespace
+
+GrowableArray<std::int16_t>& Frame(int number) {
+    if (number < 1) throw RuntimeError(9);
+    return FrameStack[number];
+}
+
+bool IsFrontEmpty() {
+    const auto* slots = Front.Data();
+    EditMode = std::all_of(slots + 1, slots + frontWidth + 1, [](auto box) { return box == 0; });
+    return EditMode == 1;
+}
+
+void AddToFront(std::int16_t box) {
+    if (box < 0) return;
+    auto* slots = Front.Data();
+    auto* end = slots + frontWidth + 1;
+    if (std::find(slots + 1, end, box) != end) return;
+    auto* empty = std::find(slots + 1, end, 0);
+    if (empty != end) {
+        *empty = box;
+        return;
+    }
+    frontWidth = ToInt16(frontWidth + FrontStep);
+    Front.Resize(frontWidth);
+    SetFrameWidth();
+    Front[frontWidth - FrontStep + 1] = box;
+}
+
+void RemoveFromFront(int slot) {
+    auto* slots = Front.Data();
+    std::copy(slots + slot + 1, slots + frontWidth + 1, slots + slot);
+    Front[frontWidth] = 0;
+}
+
+bool InputsReady(std::string& scriptText, int box) {
+    for (const auto feeder : Boxes[box].BoxIn) {
+        if (feeder <= 0) continue;
+        Box& source = Boxes[feeder];
+        if (source.BoxType == "Pickup") {
+            scriptText += BoxName(feeder) + "=" + source.BoxText + ";\r\n";
+            source.BoxMark = "OK";
+        }
+        if (source.BoxMark != "OK") return false;
+    }
+    return true;
+}
+
+bool NoOtherBoxReady(int box) {
+    for (int slot = 1; slot <= frontWidth; ++slot) {
+        const int other = Front[slot];
+        if (other == 0 || other == box) continue;
+        const auto& feeders = Boxes[other].BoxIn;
+        if (std::all_of(feeders.begin(), feeders.end(),
+                        [](auto feeder) { return feeder <= 0 || IsDone(feeder); })) {
+            return false;
+        }
+    }
+    return true;
+}
+
+void PushFront(ErrorPolicy policy, int sparedSlot) {
+    nestingDepth = ToInt16(nestingDepth + 1);
+    SetFrameCount();
+    for (int slot = 0; slot <= frontWidth; ++slot) {
+        if (slot == sparedSlot) continue;
+        Attempt(policy, [&] { Frame(nestingDepth)[slot] = Front[slot]; });
+        Front[slot] = 0;
+    }
+}
+
+void PopFront() {
+    nestingDepth = ToInt16(nestingDepth - 1);
+    const auto& frame = Frame(nestingDepth + 1);
+    for (int slot = 0; slot <= frontWidth; ++slot) Front[slot] = frame[slot];
+    SetFrameCount();
+}
+
+void ClearFront() {
+    Front = GrowableArray<std::int16_t>(frontWidth);
+    FrameStack = GrowableArray<GrowableArray<std::int16_t>>();
+    nestingDepth = 0;
+}
+
+void ResetFront() {
+    frontWidth = FrontStep;
+    ClearFront();
+}
+
+}  // namespace quorvane

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: MIT
+#include "generator/output_targets.h"
+
+#include "diagram/worksheet.h"
+#include "platform/desktop.h"
+
+namespace quorvane {
+
+TextResultsForm frmTextResults;
+
+namespace {
+
+constexpr int NoApplicationAnswered = 282;
+
+void PrepareLink(LinkBox& link, const char* item) {
+    link.LinkMode = 0;
+    link.LinkTopic = "MATLAB|Engine";
+    link.LinkItem = item;
+}
+
+/// Runs one statement of the sending side. Without an answering MATLAB the user is asked, as often
+/// as it takes; any other failure is skipped. False when the user gives up.
+template <class Statement>
+bool TryToSend(Statement&& statement) {
+    for (;;) {
+        try {
+            statement();
+            return true;
+        } catch (const RuntimeError& error) {
+            if (error.Number != NoApplicationAnswered) return true;
+        }
+        const auto answer = desktop->MsgBox(
+            {"Matlab is not responding. Maybe it isn't running. Shal I try and start it ?",
+             Icon::Critical, Buttons::YesNo});
+        if (answer != Answer::Yes) return false;
+        desktop->StartMatlab();
+    }
+}
+
+bool Execute(LinkBox& sender) {
+    const auto open = [&] {
+        sender.LinkMode = 2;
+        desktop->LinkOpen();
+    };
+    if (!TryToSend(open)) return false;
+    if (!TryToSend([&] { desktop->LinkExecute(sender.Text); })) return false;
+    sender.LinkMode = 0;
+    return true;
+}
+
+/// What a failing step leaves out is missing from the log, and nothing else.
+void Request(LinkBox& receiver) {
+    PrepareLink(receiver, "EngStringResult");
+    receiver.LinkMode = 2;
+    Attempt([&] {
+        desktop->LinkOpen();
+        receiver.Text = desktop->LinkRequest();
+    });
+    receiver.LinkMode = 0;
+}
+
+void GiveUp() {
+    ClearMarks();
+    Tell("DDE Error. Could not compile. Try compiling to the clipboard.", Icon::Information);
+    UpdateBoxGauge(BoxTableFill());
+    SetPointerAll(PointerDefault);
+}
+
+}  // namespace
+
+std::string FoldFirstPlot(std::string_view script) {
+    const auto bound = script.size() < 2 ? 0 : script.size() - 2;
+    std::string folded = script.starts_with("figure") ? "system_dependent(12,'off');"
+                                                      : "system_dependent(12,'off');figure;";
+    const auto prefix = folded.size();
+    while (!script.empty() && folded.size() - prefix < bound) {
+        if (script.starts_with("\r\n")) {
+            script.remove_prefix(2);
+            const bool afterSemicolon = folded.size() > prefix && folded.back() == ';';
+            if (!afterSemicolon) {
+                folded += ';';
+                continue;
+            }
+            // The scan goes on behind the place of the cut, so the next character is passed over.
+            if (script.empty()) break;
+        }
+        folded += script[0];
+        script.remove_prefix(1);
+    }
+    folded += script;
+    return folded + "\r\n";
+}
+
+std::string WithoutDoubleSemicolons(std::string_view script) {
+    const auto bound = script.empty() ? 0 : script.size() - 1;
+    std::string single;
+    single.reserve(script.size());
+    while (!script.empty() && single.size() < bound) {
+        while (script.starts_with(";;")) script.remove_prefix(1);
+        single += script[0];
+        script.remove_prefix(1);
+    }
+    single += script;
+    return single;
+}
+
+bool SendToMatlab(Run& run, std::string_view boxType) {
+    if (boxType == "Plot Output" && run.plotPrefixSent == 0) {
+        run.scriptText = FoldFirstPlot(run.scriptText);
+        run.plotPrefixSent = 1;
+    }
+    run.scriptText = WithoutDoubleSemicolons(run.scriptText);
+    auto& sender = frmTextResults.Sender;
+    auto& receiver = frmTextResults.Receiver;
+    sender.Text = run.scriptText;
+    PrepareLink(sender, "EngEvalString");
+    if (!Execute(sender)) {
+        GiveUp();
+        return false;
+    }
+    run.Policy = ErrorPolicy::Ignore;
+    Request(receiver);
+    frmTextResults.txt.Text += run.scriptText + receiver.Text;
+    receiver.Text.clear();
+    sender.Text.clear();
+    run.scriptText.clear();
+    return true;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+namespace quorvane {
+
+enum class Icon { None, Information, Question, Exclamation, Critical };
+enum class Buttons { Ok, YesNo, YesNoCancel, AbortRetryIgnore };
+enum class Answer { Ok, Yes, No, Cancel, Abort, Retry, Ignore };
+
+/// A message box. The title is the program's name unless the message has one of its own.
+struct Message {
+    std::string Text;
+    Icon Picture = Icon::None;
+    Buttons Choice = Buttons::Ok;
+    std::string Title = "Quorvane";
+};
+
+/// All that the program asks of the desktop it runs on. It is the one door out of the core: behind
+/// it stands the application's window system, the command line, or a test.
+struct Desktop {
+    virtual ~Desktop() = default;
+
+    virtual Answer MsgBox(const Message& message) = 0;
+    /// Asks for one line of text; a cancelled prompt gives "".
+    virtual std::string InputBox(const std::string& prompt, const std::string& title,
+                                 const std::string& defaultText) = 0;
+    /// Ask for a file. `filter` holds pairs of name and pattern parted by "|", `fileName` is the
+    /// name shown first. Cancelling raises error 32755.
+    virtual std::string OpenFileDialog(const std::string& filter, const std::string& fileName) = 0;
+    virtual std::string SaveFileDialog(const std::string& filter, const std::string& fileName) = 0;
+    /// Asks for a colour, red in the low byte, beginning with `start`. Cancelling raises error
+    /// 32755.
+    virtual std::int32_t ColorDialog(std::int32_t start) = 0;
+    /// Shows the form of this name and returns when it has hidden itself. The form's record holds
+    /// what the user did.
+    virtual void ShowModal(std::string_view form) = 0;
+
+    /// Pops up the menu of this control at the mouse pointer.
+    virtual void PopupMenu(std::string_view menu) = 0;
+    /// Arranges the worksheets: 0 cascade, 1 tile horizontally, 2 the icons of minimised ones.
+    virtual void ArrangeWindows(int how) = 0;
+    virtual void SetClipboardText(const std::string& text) = 0;
+    /// Ends the program once the running handler has returned.
+    virtual void EndProgram() = 0;
+
+    /// The link to a running MATLAB. Opening it or executing raises error 282 when nothing answers.
+    virtual void LinkOpen() = 0;
+    virtual void LinkExecute(const std::string& script) = 0;
+    /// What was printed since the last execute.
+    virtual std::string LinkRequest() = 0;
+    /// Runs the command "Start Matlab".
+    virtual void StartMatlab() = 0;
+
+    /// The per-user store: values by section and key; "" where there is none.
+    virtual std::string ReadStore(const std::string& section, const std::string& key) = 0;
+    virtual void WriteStore(const std::string& section, const std::string& key,
+                            const std::string& value) = 0;
+    /// All keys and values of a section, in the order of the keys.
+    virtual std::vector<std::pair<std::string, std::string>> ReadStoreSection(
+        const std::string& section) = 0;
+};
+
+/// The desktop in use. Whoever starts the program sets it before anything else runs.
+extern Desktop* desktop;
+
+/// Shows a message with OK alone.
+void Tell(const std::string& text, Icon picture, const std::string& title = "Quorvane");
+
+}  // namespace quorvane

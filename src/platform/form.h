@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/controls.h"
+
+namespace quorvane {
+
+/// The record of a control, of whatever kind.
+using ControlRecord = std::variant<Label*, TextBox*, Button*, CheckBox*, OptionButton*, ComboBox*,
+                                   PictureBox*, ScrollBar*>;
+
+/// A control of a form by its name in the layout ("txtTitle", "chkFrom(1)"), its record, and the
+/// handler of its event: a click of a button, check box or option button, a change of a text box,
+/// combo box or scroll bar. The record holds what the user did when the handler runs.
+struct ControlRow {
+    std::string Name;
+    ControlRecord Record;
+    std::function<void()> Event = nullptr;
+};
+
+/// A form as the screen sees it: its state and its controls. The screen copies what the user did
+/// into a record, calls the handler, and shows the records again.
+struct Form {
+    std::string Name;  ///< Also the name of its layout and of its window
+    FormState* State = nullptr;
+    std::vector<ControlRow> Controls;
+    std::function<void()> Activated = nullptr;  ///< Runs when the form has come to the screen
+};
+
+}  // namespace quorvane

@@ -1,0 +1,120 @@
+// SPDX-License-Identifier: MIT
+#include "platform/numbers.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "platform/runtime_error.h"
+
+namespace quorvane {
+
+namespace {
+
+std::string_view Trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
+
+/// Length of the run of digits at the front.
+std::size_t Digits(std::string_view text) {
+    std::size_t n = 0;
+    while (n < text.size() && text[n] >= '0' && text[n] <= '9') ++n;
+    return n;
+}
+
+bool HasNumberShape(std::string_view text) {
+    if (!text.empty() && (text[0] == '+' || text[0] == '-')) text.remove_prefix(1);
+    const auto whole = Digits(text);
+    text.remove_prefix(whole);
+    std::size_t fraction = 0;
+    if (!text.empty() && text[0] == '.') {
+        text.remove_prefix(1);
+        fraction = Digits(text);
+        text.remove_prefix(fraction);
+    }
+    if (whole + fraction == 0) return false;
+    if (!text.empty() && (text[0] == 'e' || text[0] == 'E')) {
+        text.remove_prefix(1);
+        if (!text.empty() && (text[0] == '+' || text[0] == '-')) text.remove_prefix(1);
+        const auto exponent = Digits(text);
+        if (exponent == 0) return false;
+        text.remove_prefix(exponent);
+    }
+    return text.empty();
+}
+
+template <class Integer>
+Integer Rounded(double value) {
+    const double whole = std::nearbyint(value);
+    if (!(whole >= std::numeric_limits<Integer>::min() &&
+          whole <= std::numeric_limits<Integer>::max())) {
+        throw RuntimeError(6);
+    }
+    return static_cast<Integer>(whole);
+}
+
+template <class Integer>
+Integer TextToInteger(std::string_view text) {
+    Integer value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc() && result.ptr == text.data() + text.size()) return value;
+    return Rounded<Integer>(TextToNumber(text));
+}
+
+}  // namespace
+
+bool IsNumeric(std::string_view text) { return HasNumberShape(Trimmed(text)); }
+
+double TextToNumber(std::string_view text) {
+    text = Trimmed(text);
+    if (!HasNumberShape(text)) throw RuntimeError(13);
+    if (text[0] == '+') text.remove_prefix(1);
+    double value = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
+    if (result.ec == std::errc::result_out_of_range) {
+        // Too small is as good as zero, too large is an overflow; the exponent's sign tells.
+        const auto exponent = text.find_first_of("eE");
+        const bool tiny = exponent != std::string_view::npos && exponent + 1 < text.size() &&
+                          text[exponent + 1] == '-';
+        if (!tiny) throw RuntimeError(6);
+        return 0;
+    }
+    return value;
+}
+
+std::int16_t ToInt16(double value) { return Rounded<std::int16_t>(value); }
+std::int32_t ToInt32(double value) { return Rounded<std::int32_t>(value); }
+std::int16_t TextToInt16(std::string_view text) { return TextToInteger<std::int16_t>(text); }
+std::int32_t TextToInt32(std::string_view text) { return TextToInteger<std::int32_t>(text); }
+
+void AppendNumber(std::string& text, std::int64_t number) {
+    char digits[24];
+    const auto result = std::to_chars(digits, digits + sizeof digits, number);
+    text.append(digits, result.ptr);
+}
+
+std::string NumberText(std::int64_t number) {
+    std::string text;
+    AppendNumber(text, number);
+    return text;
+}
+
+std::string LowerCase(std::string_view text) {
+    std::string lower(text);
+    for (char& c : lower) {
+        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+    }
+    return lower;
+}
+
+std::string UpperCase(std::string_view text) {
+    std::string upper(text);
+    for (char& c : upper) {
+        if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+    }
+    return upper;
+}
+
+}  // namespace quorvane

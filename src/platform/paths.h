@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quorvane {
+
+/// What stands behind the last "/" or "\"; both part a path wherever the program takes one apart.
+std::string_view FileNameOf(std::string_view path);
+/// The folder in front of the last "/" or "\", without it; "" where the path has none.
+std::string_view FolderOf(std::string_view path);
+/// Joins with the separator of this platform.
+std::string JoinPath(std::string_view folder, std::string_view name);
+
+/// The process's current folder; error 76 when it is gone.
+std::string CurrentDirectory();
+/// Error 76 when there is no such folder.
+void ChangeDirectory(const std::string& path);
+
+}  // namespace quorvane

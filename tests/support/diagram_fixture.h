@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <initializer_list>
+#include <string>
+
+#include "diagram/box_table.h"
+#include "diagram/worksheet.h"
+#include "files/document_file.h"
+#include "shell/application.h"
+#include "support/scripted_desktop.h"
+
+namespace quorvane::testing {
+
+/// A box of a diagram under test. Slots that are not named are locked entries and empty exits.
+struct TestBox {
+    std::string Type;
+    std::string Text;
+    std::vector<int> In = {};
+    std::vector<int> Out = {};
+};
+
+/// A program at its start with one empty document, number 1, on a scripted desktop.
+class DiagramTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ResetApplication();
+        desktop = &screen;
+        NewDocument();
+    }
+    void TearDown() override {
+        ResetApplication();
+        desktop = nullptr;
+    }
+
+    /// Adds boxes behind those of the table, as records without a picture, and returns the first
+    /// one's number.
+    static int Draw(std::initializer_list<TestBox> boxes, int document = 1) {
+        const int first = NextBox;
+        for (const auto& drawn : boxes) {
+            Box& box = Boxes[NextBox];
+            box = Box();
+            box.BoxType = drawn.Type;
+            box.BoxText = drawn.Text;
+            box.BoxDocument = static_cast<std::int16_t>(document);
+            box.BoxIn.Fill(LockedSlot);
+            int slot = 1;
+            for (const int entry : drawn.In) box.BoxIn[slot++] = static_cast<std::int16_t>(entry);
+            slot = 1;
+            for (const int exit : drawn.Out) box.BoxOut[slot++] = static_cast<std::int16_t>(exit);
+            ++NextBox;
+        }
+        return first;
+    }
+
+    ScriptedDesktop screen;
+};
+
+}  // namespace quorvane::testing

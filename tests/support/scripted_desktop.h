@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "platform/desktop.h"
+#include "platform/runtime_error.h"
+
+namespace quorvane::testing {
+
+/// A desktop that answers as a test prepared it and keeps what it was asked. Without a prepared
+/// answer a question gets the refusing one: abort, cancel, no.
+struct ScriptedDesktop : Desktop {
+    std::vector<Message> Messages;
+    std::deque<Answer> MessageAnswers;     ///< Taken by messages with more than one button
+    std::vector<std::string> Prompts;      ///< Title, "|", prompt, "|", default
+    std::deque<std::string> Texts;         ///< Answers of prompts; "" when they run out
+    std::vector<std::string> FileDialogs;  ///< "open" or "save", "|", filter, "|", file name
+    std::deque<std::string> Paths;         ///< Chosen files; cancelled when they run out
+    std::map<std::string, std::function<void()>, std::less<>> Forms;  ///< The user at a modal form
+    std::vector<std::string> FormsShown;
+    std::deque<std::int32_t> Colors;  ///< Chosen colours; cancelled when they run out
+    std::vector<std::int32_t> ColorStarts;
+    std::vector<std::string> MenusPopped;
+    std::vector<int> Arrangements;
+    std::vector<std::string> Clipboard;  ///< Every text put there
+    bool Ended = false;
+    std::vector<std::string> Sent;  ///< What went to MATLAB
+    std::string Reply;              ///< What each request gets
+    std::deque<int> LinkFailures;   ///< Error numbers of the next openings of the link; 0 for none
+    int MatlabStarts = 0;
+    std::map<std::string, std::map<std::string, std::string>> Store;
+
+    Answer MsgBox(const Message& message) override {
+        Messages.push_back(message);
+        if (message.Choice == Buttons::Ok) return Answer::Ok;
+        if (MessageAnswers.empty()) {
+            switch (message.Choice) {
+                case Buttons::YesNo: return Answer::No;
+                case Buttons::YesNoCancel: return Answer::Cancel;
+                default: return Answer::Abort;
+            }
+        }
+        return Take(MessageAnswers);
+    }
+    std::string InputBox(const std::string& prompt, const std::string& title,
+                         const std::string& defaultText) override {
+        Prompts.push_back(title + "|" + prompt + "|" + defaultText);
+        return Texts.empty() ? "" : Take(Texts);
+    }
+    std::string OpenFileDialog(const std::string& filter, const std::string& name) override {
+        return TakePath("open|" + filter + "|" + name);
+    }
+    std::string SaveFileDialog(const std::string& filter, const std::string& name) override {
+        return TakePath("save|" + filter + "|" + name);
+    }
+    void ShowModal(std::string_view form) override {
+        FormsShown.emplace_back(form);
+        if (const auto user = Forms.find(form); user != Forms.end()) user->second();
+    }
+    std::int32_t ColorDialog(std::int32_t start) override {
+        ColorStarts.push_back(start);
+        if (Colors.empty()) throw RuntimeError(32755);
+        return Take(Colors);
+    }
+    void PopupMenu(std::string_view menu) override { MenusPopped.emplace_back(menu); }
+    void ArrangeWindows(int how) override { Arrangements.push_back(how); }
+    void SetClipboardText(const std::string& text) override { Clipboard.push_back(text); }
+    void EndProgram() override { Ended = true; }
+    void LinkOpen() override {
+        const int failure = LinkFailures.empty() ? 0 : Take(LinkFailures);
+        if (failure != 0) throw RuntimeError(failure);
+    }
+    void LinkExecute(const std::string& script) override { Sent.push_back(script); }
+    std::string LinkRequest() override { return Reply; }
+    void StartMatlab() override { ++MatlabStarts; }
+    std::string ReadStore(const std::string& section, const std::string& key) override {
+        return Store[section][key];
+    }
+    void WriteStore(const std::string& section, const std::string& key,
+                    const std::string& value) override {
+        Store[section][key] = value;
+    }
+    std::vector<std::pair<std::string, std::string>> ReadStoreSection(
+        const std::string& section) override {
+        std::vector<std::pair<std::string, std::string>> rows;
+        for (const auto& row : Store[section]) {
+            if (!row.second.empty()) rows.push_back(row);
+        }
+        return rows;
+    }
+
+private:
+    template <class T>
+    static T Take(std::deque<T>& answers) {
+        T answer = std::move(answers.front());
+        answers.pop_front();
+        return answer;
+    }
+    std::string TakePath(std::string asked) {
+        FileDialogs.push_back(std::move(asked));
+        if (Paths.empty()) throw RuntimeError(32755);
+        return Take(Paths);
+    }
+};
+
+}  // namespace quorvane::testing
