@@ -24,6 +24,7 @@ std::string& MatrixGrid::Cell(int row, int col) {
 
 void frmMatrix_Load() {
     frmMatrix = {};
+    frmMatrix.Form = {.Caption = "Matrix Input", .Loaded = true};
     auto& grid = frmMatrix.grid;
     grid.Grow(5, 5);
     for (int i = 1; i <= 4; ++i) {
@@ -32,7 +33,6 @@ void frmMatrix_Load() {
     }
     grid.Row = 1;
     grid.Col = 1;
-    frmMatrix.Shown = true;
 }
 
 void frmMatrix_grid_KeyDown(int keyCode, std::string_view character) {
@@ -86,7 +86,13 @@ void frmMatrix_cmdOK_Click() {
         if (last == ';') text.resize(i - 1);
     }
     frmMatrix.mat.Text = text;
-    frmMatrix.Shown = false;
+    frmMatrix.Form.Visible = false;
+}
+
+Form frmMatrix_Table() {
+    return {.Name = "frmMatrix",
+            .State = &frmMatrix.Form,
+            .Controls = {{"cmdOK", &frmMatrix.cmdOK, frmMatrix_cmdOK_Click}}};
 }
 
 }  // namespace quorvane

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/controls.h"
+#include "platform/form.h"
 
 namespace quorvane {
 
@@ -26,9 +26,10 @@ struct MatrixGrid {
 /// The grid in which the elements of a matrix are typed. The generator opens it for each
 /// "Matrix Input" box that it meets, and takes the text of `mat` for that run.
 struct MatrixForm {
+    FormState Form;
     MatrixGrid grid;
     TextBox mat;  ///< "[", the rows parted by "; ", without a closing bracket
-    bool Shown = false;
+    Button cmdOK{"OK"};
 };
 extern MatrixForm frmMatrix;
 
@@ -37,5 +38,7 @@ void frmMatrix_Load();
 /// current cell, any other key appends its character.
 void frmMatrix_grid_KeyDown(int keyCode, std::string_view character);
 void frmMatrix_cmdOK_Click();
+/// Without the grid, which the screen shows by its own means.
+Form frmMatrix_Table();
 
 }  // namespace quorvane

@@ -2,7 +2,6 @@
 #include "diagram/arrows.h"
 
 #include "diagram/box_table.h"
-#include "diagram/worksheet.h"
 #include "platform/numbers.h"
 
 namespace quorvane {
@@ -34,6 +33,9 @@ DrawnShape Pie(std::int32_t color, double x, double y, double radius, double sta
     return pie;
 }
 
+/// Where an arrow to this entry meets the upper or lower edge: on a fifth of the width.
+double LandingPoint(const BoxControl& D, int entry) { return D.Left + entry * (D.Width / 5); }
+
 /// The head at the landing point x of destination D, by where source S stands.
 DrawnShape Head(std::int32_t color, const BoxControl& S, const BoxControl& D, double x) {
     const double middle = S.Top + S.Height / 2;
@@ -56,13 +58,17 @@ void DrawArrow(int source, int destination, int entry, const char* /*mode*/, int
         auto& window = DocumentWindow(document);
         const auto& S = window.box[source];
         const auto& D = window.box[destination];
-        const double x = D.Left + entry * (D.Width / 5);
-        const double y = S.Top + S.Height / 2;
-        window.Surface.push_back(
-            Line(color, S.Left + entry * (S.Width / 5), y, x, S.Top + D.Height / 2));
-        window.Surface.push_back(Line(color, x, y, x, D.Top));
-        window.Surface.push_back(Head(color, S, D, x));
+        DrawLegs(window.Surface, color, S, D, entry);
+        window.Surface.push_back(Head(color, S, D, LandingPoint(D, entry)));
     });
+}
+
+void DrawLegs(std::vector<DrawnShape>& surface, std::int32_t color, const BoxControl& S,
+              const BoxControl& D, int entry) {
+    const double x = LandingPoint(D, entry);
+    const double y = S.Top + S.Height / 2;
+    surface.push_back(Line(color, S.Left + entry * (S.Width / 5), y, x, S.Top + D.Height / 2));
+    surface.push_back(Line(color, x, y, x, D.Top));
 }
 
 int FindEntrySlot(int source, int destination) {

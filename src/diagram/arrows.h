@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
 #include <string>
+#include <vector>
+
+#include "diagram/worksheet.h"
 
 namespace quorvane {
 
@@ -9,6 +13,10 @@ namespace quorvane {
 /// of `document`: two legs and a head, by the places of the box controls. A destination of 0 or
 /// below, and any failure, paints nothing more. `mode` is always "b" and has no effect.
 void DrawArrow(int source, int destination, int entry, const char* mode, int document);
+
+/// Paints the two legs of an arrow from control S to entry `entry` of control D.
+void DrawLegs(std::vector<DrawnShape>& surface, std::int32_t color, const BoxControl& S,
+              const BoxControl& D, int entry);
 
 /// The lowest entry of `destination` that holds `source`, 1 when there is none.
 int FindEntrySlot(int source, int destination);

@@ -12,6 +12,11 @@ std::int16_t CurrentDocument = 0;
 FrameWindow frmMDI;
 
 Worksheet::Worksheet() {
+    pnlResource.Place = {0, 6810, 1800, 390};
+    pnlArrow.Place = {1800, 6810, 600, 390};
+    pctblank = {9345, 6810, 255, 390};
+    scrH.Place = {2400, 6810, 6945, 390};
+    scrV.Place = {9345, 0, 255, 6810};
     scrV.Max = 7000;
     scrV.SmallChange = 200;
     scrV.LargeChange = 500;
@@ -21,6 +26,7 @@ Worksheet::Worksheet() {
 }
 
 FrameWindow::FrameWindow() {
+    mnuOptionsCurrentToolbox.Caption = "Current Toolbox: default.tlb";
     for (auto& entry : mnuFileArray) entry.Visible = false;
 }
 
@@ -29,6 +35,10 @@ Worksheet& DocumentWindow(int document) {
     if (!window) throw RuntimeError(91);
     return *window;
 }
+
+std::int16_t DocumentNumber(const Worksheet& sheet) { return TextToInt16(sheet.Tag); }
+
+void MarkModified(const Worksheet& sheet) { DocumentStates[DocumentNumber(sheet)].Modified = -1; }
 
 std::int16_t AllocateDocument() {
     for (int i = 1; i <= Documents.UpperBound(); ++i) {

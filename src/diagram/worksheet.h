@@ -74,8 +74,8 @@ struct Worksheet {
     std::string Caption;  ///< Also the file name: "Untitled:" and the number until the first save
     bool Shown = false;
     bool Minimized = false;
-    double ScaleWidth = 0;  ///< Inner size of the window, in screen units; the screen writes it
-    double ScaleHeight = 0;
+    double ScaleWidth = 9600;  ///< Inner size of the window, in screen units; the screen writes it
+    double ScaleHeight = 7200;
     int MousePointer = PointerDefault;
     int DrawWidth = 1;  ///< Pen width of the arrows, in pixels
     GaugePanel pnlResource;
@@ -119,6 +119,12 @@ extern FrameWindow frmMDI;
 
 /// The window of a document; error 9 for a number beyond the table, 91 when it has no window.
 Worksheet& DocumentWindow(int document);
+
+/// The number of a worksheet's document; error 13 for the template.
+std::int16_t DocumentNumber(const Worksheet& sheet);
+
+/// Notes that the worksheet's document has changes that are not saved.
+void MarkModified(const Worksheet& sheet);
 
 /// Runs an action with the window and number of each document that is not closed.
 template <class Action>

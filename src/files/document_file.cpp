@@ -7,6 +7,7 @@
 #include "catalogue/icon_table.h"
 #include "diagram/arrows.h"
 #include "diagram/box_table.h"
+#include "diagram/layout.h"
 #include "diagram/worksheet.h"
 #include "files/recent_files.h"
 #include "platform/desktop.h"
@@ -60,7 +61,12 @@ struct Fields {
 /// The next line of the file, empty when it can't be read.
 Fields NextLine(Load& load) {
     Fields fields;
-    load.Do([&] { fields.Rest = LineInput(LoadFile); });
+    load.Do([&] {
+        // By way of a value of its own: gcc 12 forgets the empty line when the call that assigns to
+        // it throws.
+        const auto line = LineInput(LoadFile);
+        fields.Rest = line;
+    });
     return fields;
 }
 
@@ -184,26 +190,6 @@ std::string BoxRecord(std::int16_t number) {
     return record;
 }
 
-/// The whole file: the count, then the records in the order in which the boxes were first
-/// mentioned.
-std::string DocumentText(std::int16_t document) {
-    numberedBoxes.clear();
-    std::vector<std::int16_t> tableIndices;
-    std::vector<std::string> records;
-    for (std::int16_t i = 1; i < NextBox; ++i) {
-        if (Boxes[i].BoxDocument != document) continue;
-        tableIndices.push_back(i);
-        records.push_back(BoxRecord(i));
-    }
-    std::string text = NumberText(static_cast<std::int64_t>(records.size())) + "\r\n";
-    for (const auto numbered : numberedBoxes) {
-        const auto found = std::find(tableIndices.begin(), tableIndices.end(), numbered);
-        if (found == tableIndices.end()) continue;  // a link to a box outside this document
-        text += records[static_cast<std::size_t>(found - tableIndices.begin())];
-    }
-    return text;
-}
-
 /// Writes the text and a line end. A failing step is skipped in silence and leaves "0~" in the
 /// text.
 void WriteDocument(const std::string& name, std::string text) {
@@ -241,10 +227,31 @@ std::int16_t MapBoxNumber(std::int16_t tableIndex) {
     return static_cast<std::int16_t>(position);
 }
 
+std::string DocumentText(std::int16_t document) {
+    numberedBoxes.clear();
+    std::vector<std::int16_t> tableIndices;
+    std::vector<std::string> records;
+    for (std::int16_t i = 1; i < NextBox; ++i) {
+        if (Boxes[i].BoxDocument != document) continue;
+        tableIndices.push_back(i);
+        records.push_back(BoxRecord(i));
+    }
+    std::string text = NumberText(static_cast<std::int64_t>(records.size())) + "\r\n";
+    for (const auto numbered : numberedBoxes) {
+        const auto found = std::find(tableIndices.begin(), tableIndices.end(), numbered);
+        if (found == tableIndices.end()) continue;  // a link to a box outside this document
+        text += records[static_cast<std::size_t>(found - tableIndices.begin())];
+    }
+    return text;
+}
+
 std::int16_t NewDocument() {
     const auto number = AllocateDocument();
     auto& window = Documents[number];
-    if (!window) window = std::make_unique<Worksheet>();
+    if (!window) {
+        window = std::make_unique<Worksheet>();
+        main_Load(*window);
+    }
     window->Tag = NumberText(number);
     window->Caption = "Untitled:" + window->Tag;
     window->mnuOptionsToolbox.Checked = frmMDI.mnuOptionsToolbox.Checked;

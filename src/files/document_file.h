@@ -32,6 +32,9 @@ void LoadDocumentFile(const std::string& path);
 /// caption begins with "Untitled" is always asked for.
 void SaveDocument(std::int16_t document, std::int16_t mode);
 
+/// What a saved file of this document holds, without the empty line at its end.
+std::string DocumentText(std::int16_t document);
+
 /// Numbers boxes by their first mention while saving; 0 and below stay as they are.
 std::int16_t MapBoxNumber(std::int16_t tableIndex);
 

@@ -76,8 +76,9 @@ bool WriteMatrixMake(Run& run, int box, int /*slot*/) {
     if (!Ready(run, box)) return false;
     const auto bracket = record.BoxText.find('(');
     if (bracket != std::string::npos) run.workText = record.BoxText.substr(0, bracket + 1);
-    WriteLine(run, Assigned(box) + run.workText + BoxName(record.BoxIn[1]) + "," +
-                       NumberText(record.BoxIn[2]) + ");");
+    // The line is the call alone: nothing takes its value.
+    WriteLine(run,
+              run.workText + BoxName(record.BoxIn[1]) + "," + NumberText(record.BoxIn[2]) + ");");
     return true;
 }
 

@@ -2,6 +2,7 @@
 #include "generator/output_targets.h"
 
 #include "diagram/worksheet.h"
+#include "generator/compile_document.h"
 #include "platform/desktop.h"
 
 namespace quorvane {
@@ -67,6 +68,8 @@ void GiveUp() {
 }
 
 }  // namespace
+
+void mnuExeDDE_Click(Worksheet& sheet) { desktop->SetClipboardText(CompileDocument(1, sheet.Tag)); }
 
 std::string FoldFirstPlot(std::string_view script) {
     const auto bound = script.size() < 2 ? 0 : script.size() - 2;

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "diagram/worksheet.h"
 #include "generator/run.h"
 #include "platform/controls.h"
 
@@ -24,6 +25,9 @@ struct TextResultsForm {
     LinkBox Receiver;
 };
 extern TextResultsForm frmTextResults;
+
+/// Compiles the worksheet to the clipboard. A refused or aborted run leaves an empty one.
+void mnuExeDDE_Click(Worksheet& sheet);
 
 /// The first plot of a run: its lines become one, behind the commands that make MATLAB ready to
 /// draw. Of the line ends, those up to two characters before the end as it stood are folded.

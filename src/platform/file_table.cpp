@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <memory>
+#include <random>
 
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -51,11 +52,20 @@ OpenFile& Opened(int number, Use use) {
     return *file;
 }
 
-/// The path with links followed as far as it exists.
+/// The absolute path behind all links, also behind one whose target is missing: what is written
+/// goes where the link points.
 fs::path Resolved(const std::string& path) {
     std::error_code error;
-    auto resolved = fs::weakly_canonical(fs::absolute(path, error), error);
-    return error ? fs::path(path) : resolved;
+    auto resolved = fs::absolute(path, error);
+    if (error) return path;
+    constexpr int longestChain = 40;
+    for (int i = 0; i < longestChain && fs::is_symlink(fs::symlink_status(resolved, error)); ++i) {
+        const auto target = fs::read_symlink(resolved, error);
+        if (error) break;
+        resolved = resolved.parent_path() / target;
+    }
+    auto canonical = fs::weakly_canonical(resolved, error);
+    return error ? resolved : canonical;
 }
 
 void RefuseIfOpen(int number, const fs::path& path, Use use) {
@@ -77,11 +87,16 @@ bool Fill(OpenFile& file) {
     return file.Filled > 0;
 }
 
-/// A file beside `path` that nobody else has, opened for writing.
+/// A file beside `path` that nobody else has, opened for writing, as private as the one at `path`.
 std::unique_ptr<std::FILE, StreamCloser> CreateAside(const fs::path& path, fs::path& aside) {
-    for (int attempt = 1; attempt <= 1000; ++attempt) {
-        aside = path.parent_path() / ("." + path.filename().string() + "." + NumberText(attempt));
+    std::random_device random;
+    for (int attempt = 1; attempt <= 100; ++attempt) {
+        const auto name = "." + path.filename().string() + "." + NumberText(random());
+        aside = path.parent_path() / name;
         if (auto* stream = std::fopen(aside.string().c_str(), "wbx")) {
+            std::error_code error;
+            const auto old = fs::status(path, error);
+            if (fs::exists(old)) fs::permissions(aside, old.permissions(), error);
             return std::unique_ptr<std::FILE, StreamCloser>(stream);
         }
         if (errno != EEXIST) break;
@@ -117,9 +132,6 @@ void TakePlace(OpenFile& file) {
         fs::remove(file.WrittenAside, error);
         throw RuntimeError(61);
     }
-    const auto old = fs::status(file.Path, error);
-    if (fs::exists(old)) fs::permissions(file.WrittenAside, old.permissions(), error);
-    error.clear();
     fs::rename(file.WrittenAside, file.Path, error);
     if (error) {
         fs::remove(file.WrittenAside, error);

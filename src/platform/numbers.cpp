@@ -3,6 +3,7 @@
 
 #include <charconv>
 #include <cmath>
+#include <cstdlib>
 #include <limits>
 
 #include "platform/runtime_error.h"
@@ -74,12 +75,10 @@ double TextToNumber(std::string_view text) {
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        // Too small is as good as zero, too large is an overflow; the exponent's sign tells.
-        const auto exponent = text.find_first_of("eE");
-        const bool tiny = exponent != std::string_view::npos && exponent + 1 < text.size() &&
-                          text[exponent + 1] == '-';
-        if (!tiny) throw RuntimeError(6);
-        return 0;
+        // Too small is as good as zero, too large is an overflow; only the library tells which it
+        // is.
+        value = std::strtod(std::string(text).c_str(), nullptr);
+        if (std::isinf(value)) throw RuntimeError(6);
     }
     return value;
 }

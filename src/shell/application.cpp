@@ -3,7 +3,12 @@
 
 #include "catalogue/icon_table.h"
 #include "catalogue/matrix_input.h"
+#include "diagram/box_info.h"
 #include "diagram/box_table.h"
+#include "diagram/comment_form.h"
+#include "diagram/layout.h"
+#include "diagram/page_view.h"
+#include "diagram/selection.h"
 #include "diagram/worksheet.h"
 #include "files/document_file.h"
 #include "files/settings.h"
@@ -18,11 +23,17 @@ void ResetApplication() {
     CloseAllFiles();
     ResetBoxTable();
     ResetDocuments();
+    ResetSelection();
+    PageRight = 0;
+    PageBottom = 0;
     ResetFront();
     lastRunEnd = RunEnd::None;
     lastLoad = {};
     icons = {};
+    frmComment = {};
+    frmInfo = {};
     frmMatrix = {};
+    frmPageView = {};
     frmPrefs = {};
     frmTextResults = {};
 }

@@ -89,7 +89,7 @@ struct ScriptedDesktop : Desktop {
         const std::string& section) override {
         std::vector<std::pair<std::string, std::string>> rows;
         for (const auto& row : Store[section]) {
-            if (!row.second.empty()) rows.push_back(row);
+            if (!row.second.empty()) rows.emplace_back(row);
         }
         return rows;
     }

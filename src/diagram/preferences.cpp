@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "files/settings.h"
+#include "diagram/preferences.h"
 
 namespace quorvane {
 

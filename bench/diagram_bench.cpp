@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// Loading, compiling and saving diagrams of several shapes that fill a tenth of the table or all.
+#include <benchmark/benchmark.h>
+
+#include <chrono>
+#include <filesystem>
+#include <stdexcept>
+
+#include "diagram/worksheet.h"
+#include "diagrams.h"
+#include "files/document_file.h"
+#include "generator/compile_document.h"
+#include "generator/front.h"
+#include "memory_count.h"
+#include "platform/numbers.h"
+#include "shell/application.h"
+#include "support/scripted_desktop.h"
+
+using namespace quorvane;
+using namespace quorvane::bench;
+
+namespace {
+
+/// A desktop that is told "Done !" and asked nothing: a question would be part of the time.
+struct SilentDesktop : testing::ScriptedDesktop {
+    Answer MsgBox(const Message& message) override {
+        if (message.Text != "Done !") throw std::logic_error("unexpected: " + message.Text);
+        return Answer::Ok;
+    }
+};
+
+/// One diagram under measurement: its boxes, its file, and how long its walk is.
+struct Subject {
+    std::vector<Box> Boxes;
+    std::string Path;
+    WalkSize Walk;
+    double FileBytes = 0;
+};
+
+SilentDesktop silent;
+
+Subject Prepare(const Shape& shape, int boxes) {
+    desktop = &silent;
+    Subject subject;
+    subject.Boxes = shape.Make(boxes);
+    subject.Path = WorkFolder() + "/" + std::string(shape.Name) + NumberText(boxes) + ".qvm";
+    DrawOnNewSheet(subject.Boxes);
+    subject.Walk = MeasureWalk();
+    Documents[1]->Caption = subject.Path;
+    SaveDocument(1, 1);
+    subject.FileBytes = static_cast<double>(std::filesystem::file_size(subject.Path));
+    return subject;
+}
+
+/// Measures `work` alone: what puts the program back for the next round stands in `prepare`.
+template <class Preparation, class Work>
+void Measure(benchmark::State& state, const Subject& subject, Preparation prepare, Work work) {
+    using Clock = std::chrono::steady_clock;
+    for ([[maybe_unused]] auto round : state) {
+        prepare();
+        const auto start = Clock::now();
+        work();
+        const std::chrono::duration<double> taken = Clock::now() - start;
+        state.SetIterationTime(taken.count());
+    }
+    prepare();
+    {
+        const MemoryCount memory;
+        work();
+        state.counters["peak_bytes"] = static_cast<double>(MemoryCount::Peak());
+    }
+    state.counters["file_bytes"] = subject.FileBytes;
+    state.counters["script_bytes"] = static_cast<double>(subject.Walk.ScriptBytes);
+    state.counters["passes"] = subject.Walk.Passes;
+    state.counters["visits"] = subject.Walk.Visits;
+}
+
+void Loading(benchmark::State& state, const Shape& shape, int boxes) {
+    const auto subject = Prepare(shape, boxes);
+    Measure(state, subject, ResetApplication, [&] { LoadDocumentFile(subject.Path); });
+    if (NextBox != boxes + 1) state.SkipWithError("not all boxes were loaded");
+}
+
+void Compiling(benchmark::State& state, const Shape& shape, int boxes) {
+    const auto subject = Prepare(shape, boxes);
+    DrawOnNewSheet(subject.Boxes);
+    std::string script;
+    // The front keeps its width from run to run; each round has that of a fresh program.
+    const auto prepare = [&] {
+        script = std::string();
+        ResetFront();
+    };
+    Measure(state, subject, prepare, [&] { script = CompileDocument(1, "1"); });
+    if (script.size() != subject.Walk.ScriptBytes) state.SkipWithError("another script came out");
+}
+
+void Saving(benchmark::State& state, const Shape& shape, int boxes) {
+    const auto subject = Prepare(shape, boxes);
+    DrawOnNewSheet(subject.Boxes);
+    Documents[1]->Caption = subject.Path;
+    const auto nothing = [] {};
+    Measure(state, subject, nothing, [] { SaveDocument(1, 1); });
+}
+
+struct Operation {
+    const char* Name;
+    void (*Run)(benchmark::State& state, const Shape& shape, int boxes);
+};
+constexpr Operation operations[] = {{"load", Loading}, {"compile", Compiling}, {"save", Saving}};
+
+/// Under the names operation/shape/boxes.
+void RegisterAll() {
+    for (const auto& operation : operations) {
+        for (const auto& shape : shapes) {
+            for (const int boxes : {MaxBoxes / 10, MaxBoxes}) {
+                const auto name = std::string(operation.Name) + "/" + std::string(shape.Name) +
+                                  "/" + NumberText(boxes);
+                const auto run = [&operation, &shape, boxes](benchmark::State& state) {
+                    operation.Run(state, shape, boxes);
+                };
+                benchmark::RegisterBenchmark(name.c_str(), run)
+                    ->UseManualTime()
+                    ->Unit(benchmark::kMicrosecond);
+            }
+        }
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
+    RegisterAll();
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/flow_dialogs.h"
+
+#include <cstdio>
+
+#include "diagram/box_table.h"
+#include "diagram/comment_form.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "platform/runtime_error.h"
+
+namespace quorvane {
+
+ForLoopForm frmForLoop;
+IfForm frmIf;
+SubsForm frmSubs;
+PauseForm frmPause;
+UserInputForm frmUserInput;
+
+void frmForLoop_Load() {
+    frmForLoop = {};
+    frmForLoop.Form = {.Caption = "For Loop", .Loaded = true};
+}
+
+void frmForLoop_cmd_Click() { frmForLoop.Form.Visible = false; }
+
+Form frmForLoop_Table() {
+    return {.Name = "frmForLoop",
+            .State = &frmForLoop.Form,
+            .Controls = {{"txtFrom", &frmForLoop.txtFrom},
+                         {"txtUntil", &frmForLoop.txtUntil},
+                         {"txtInc", &frmForLoop.txtInc},
+                         {"cmd", &frmForLoop.cmd, frmForLoop_cmd_Click}}};
+}
+
+void CompleteFor(int box) {
+    frmForLoop_Load();
+    desktop->ShowModal("frmForLoop");
+    Boxes[box].BoxText = frmForLoop.txtFrom.Text + ":" + frmForLoop.txtInc.Text + ":" +
+                         frmForLoop.txtUntil.Text + ",";
+    frmForLoop = {};
+}
+
+void frmIf_Load() {
+    frmIf = {};
+    frmIf.Form = {.Caption = "Condition Statement", .Loaded = true};
+}
+
+void frmIf_cmdOK_Click() { frmIf.Form.Visible = false; }
+
+Form frmIf_Table() {
+    return {.Name = "frmIf",
+            .State = &frmIf.Form,
+            .Controls = {{"txtCondition", &frmIf.txtCondition},
+                         {"chkelse", &frmIf.chkelse},
+                         {"cmdOK", &frmIf.cmdOK, frmIf_cmdOK_Click}}};
+}
+
+void CompleteIf(int box) {
+    frmIf_Load();
+    desktop->ShowModal("frmIf");
+    Boxes[box].BoxText = (frmIf.chkelse.Value ? "else" : "") + frmIf.txtCondition.Text;
+    frmIf = {};
+}
+
+void CompleteWhile(int box) {
+    Boxes[box].BoxText = desktop->InputBox("Enter the condition in Matlab Script", "Quorvane", "");
+}
+
+void CompletePickup(int box) {
+    Boxes[box].BoxText =
+        desktop->InputBox("Please enter the variable to pick up", "Quorvane", BoxName(box));
+}
+
+namespace {
+
+/// The type of the box at which a subroutine begins: the name, a blank and this word.
+constexpr std::string_view SubroutineWord = "Subroutine";
+
+}  // namespace
+
+void frmSubs_Load() {
+    frmSubs = {};
+    frmSubs.Form = {.Caption = "Current Subs", .Loaded = true};
+    for (int i = 1; i < NextBox; ++i) {
+        const auto& type = Boxes[i].BoxType;
+        if (type.ends_with(SubroutineWord) && type != "End Subroutine") {
+            frmSubs.available_subs.List.push_back(type);
+        }
+    }
+}
+
+void frmSubs_cmdOK_Click() { frmSubs.Form.Visible = false; }
+
+Form frmSubs_Table() {
+    return {.Name = "frmSubs",
+            .State = &frmSubs.Form,
+            .Controls = {{"available_subs", &frmSubs.available_subs},
+                         {"cmdOK", &frmSubs.cmdOK, frmSubs_cmdOK_Click}}};
+}
+
+std::string AskInsertedSubroutine() {
+    frmSubs_Load();
+    desktop->ShowModal("frmSubs");
+    auto name = frmSubs.available_subs.Text;
+    if (name.ends_with(SubroutineWord)) {
+        const auto tail = SubroutineWord.size() + 1;
+        name.resize(name.size() < tail ? 0 : name.size() - tail);
+    }
+    frmSubs = {};
+    return "Insert Subroutine " + name;
+}
+
+std::string AskStartedSubroutine() {
+    return desktop->InputBox("What is the subroutine's name ?", "Quorvane", "") + " Subroutine";
+}
+
+namespace {
+
+/// The shortest usual form of a number of seconds: up to 15 digits, no trailing zeros.
+std::string SecondsText(double seconds) {
+    char text[32];
+    std::snprintf(text, sizeof text, "%.15G", seconds);
+    return text;
+}
+
+/// The seconds that stand in the dialog; 0 for a text that is no number.
+double Seconds() {
+    return AttemptValue(ErrorPolicy::Ignore, 0.0,
+                        [] { return TextToNumber(frmPause.lblSecs.Text); });
+}
+
+}  // namespace
+
+void frmPause_Load() {
+    frmPause = {};
+    frmPause.Form = {.Caption = "Pause execution", .Loaded = true};
+}
+
+void frmPause_lblSecs_Change() {
+    const bool number = Attempt([] { TextToNumber(frmPause.lblSecs.Text); });
+    if (!number || Seconds() < 0) frmPause.lblSecs.Text = "0";
+}
+
+void frmPause_spn_Change() {
+    const int steps = frmPause.spn.Value;
+    frmPause.spn.Value = 0;
+    if (steps == 0) return;
+    frmPause.lblSecs.Text = SecondsText(Seconds() - steps);
+    frmPause_lblSecs_Change();
+}
+
+void frmPause_chkNoNumber_Click() {
+    const bool counted = frmPause.chkNoNumber.Value == 0;
+    frmPause.spn.Enabled = counted;
+    frmPause.lblSecs.Enabled = counted;
+}
+
+void frmPause_cmdOK_Click() { frmPause.Form.Visible = false; }
+
+Form frmPause_Table() {
+    return {.Name = "frmPause",
+            .State = &frmPause.Form,
+            .Controls = {{"lblSecs", &frmPause.lblSecs, frmPause_lblSecs_Change},
+                         {"spn", &frmPause.spn, frmPause_spn_Change},
+                         {"chkNoNumber", &frmPause.chkNoNumber, frmPause_chkNoNumber_Click},
+                         {"cmdOK", &frmPause.cmdOK, frmPause_cmdOK_Click}}};
+}
+
+void CompletePause(int box) {
+    frmPause_Load();
+    desktop->ShowModal("frmPause");
+    Boxes[box].BoxText = frmPause.chkNoNumber.Value ? "" : frmPause.lblSecs.Text;
+    frmPause = {};
+}
+
+void frmUserInput_Load() {
+    frmUserInput = {};
+    frmUserInput.Form = {.Caption = "User prompt for input", .Loaded = true};
+}
+
+void frmUserInput_cmdOK_Click() { frmUserInput.Form.Visible = false; }
+
+Form frmUserInput_Table() {
+    return {.Name = "frmUserInput",
+            .State = &frmUserInput.Form,
+            .Controls = {{"txtPrompt", &frmUserInput.txtPrompt},
+                         {"cmdOK", &frmUserInput.cmdOK, frmUserInput_cmdOK_Click}}};
+}
+
+void CompleteUserInput(int box) {
+    frmUserInput_Load();
+    desktop->ShowModal("frmUserInput");
+    Boxes[box].BoxText = frmUserInput.txtPrompt.Text;
+    frmUserInput = {};
+}
+
+void CompleteComment(int box) {
+    frmComment_Load();
+    desktop->ShowModal("frmComment");
+    Boxes[box].BoxText = frmComment.txtComment.Text;
+    frmComment = {};
+}
+
+}  // namespace quorvane

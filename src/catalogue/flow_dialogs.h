@@ -1,0 +1,94 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// The dialogs and prompts of the boxes that steer a script: loops, branches, pauses, questions,
+/// subroutines, comments. Each Complete routine runs its dialog for the armed box of that number
+/// and packs what was typed into BoxText; nothing is checked for being valid script, and a
+/// cancelled prompt gives an empty text.
+
+/// "For": from, increment, until.
+struct ForLoopForm {
+    FormState Form;
+    TextBox txtFrom{"1"};
+    TextBox txtUntil{"1"};
+    TextBox txtInc{"1"};
+    Button cmd{"OK"};
+};
+extern ForLoopForm frmForLoop;
+void frmForLoop_Load();
+void frmForLoop_cmd_Click();
+Form frmForLoop_Table();
+void CompleteFor(int box);
+
+/// "If": the condition, with "else" in front when the second exit is the other branch.
+struct IfForm {
+    FormState Form;
+    TextBox txtCondition;
+    CheckBox chkelse;
+    Button cmdOK{"OK"};
+};
+extern IfForm frmIf;
+void frmIf_Load();
+void frmIf_cmdOK_Click();
+Form frmIf_Table();
+void CompleteIf(int box);
+
+void CompleteWhile(int box);
+void CompletePickup(int box);
+
+/// The subroutines of the box table, one of which is to be inserted.
+struct SubsForm {
+    FormState Form;
+    ComboBox available_subs;
+    Button cmdOK{"OK"};
+};
+extern SubsForm frmSubs;
+void frmSubs_Load();
+void frmSubs_cmdOK_Click();
+Form frmSubs_Table();
+
+/// Ask for a subroutine before there is a box and give the type of the box: "Insert Subroutine "
+/// and the name; the name and " Subroutine".
+std::string AskInsertedSubroutine();
+std::string AskStartedSubroutine();
+
+/// "Pause": a number of seconds, or a wait for the user.
+struct PauseForm {
+    FormState Form;
+    TextBox lblSecs{"1"};
+    ScrollBar spn{.Min = -1, .Max = 1};  ///< -1 while its upper end is pressed, 1 the lower one
+    CheckBox chkNoNumber;
+    Button cmdOK{"OK"};
+};
+extern PauseForm frmPause;
+void frmPause_Load();
+/// Keeps the seconds a number from 0 up.
+void frmPause_lblSecs_Change();
+/// Adds or takes one second and lets the control go.
+void frmPause_spn_Change();
+void frmPause_chkNoNumber_Click();
+void frmPause_cmdOK_Click();
+Form frmPause_Table();
+void CompletePause(int box);
+
+/// "User Input": the prompt that the script shows.
+struct UserInputForm {
+    FormState Form;
+    TextBox txtPrompt;
+    Button cmdOK{"OK"};
+};
+extern UserInputForm frmUserInput;
+void frmUserInput_Load();
+void frmUserInput_cmdOK_Click();
+Form frmUserInput_Table();
+void CompleteUserInput(int box);
+
+void CompleteComment(int box);
+
+}  // namespace quorvane

@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: MIT
+#include "catalogue/matrix_dialogs.h"
+
+#include "diagram/box_table.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+
+namespace quorvane {
+
+MakeVectorForm frmMakeVector;
+MakeMatForm frmMakeMat;
+SplitForm frmSplit;
+
+void frmMakeVector_Load() {
+    frmMakeVector = {};
+    frmMakeVector.Form = {.Caption = "Make Vector", .Loaded = true};
+}
+
+void frmMakeVector_cmdOK_Click() { frmMakeVector.Form.Visible = false; }
+
+Form frmMakeVector_Table() {
+    return {.Name = "frmMakeVector",
+            .State = &frmMakeVector.Form,
+            .Controls = {{"txtMin", &frmMakeVector.txtMin},
+                         {"txtStep", &frmMakeVector.txtStep},
+                         {"txtMax", &frmMakeVector.txtMax},
+                         {"cmdOK", &frmMakeVector.cmdOK, frmMakeVector_cmdOK_Click}}};
+}
+
+void CompleteMakeVector(int box) {
+    frmMakeVector_Load();
+    desktop->ShowModal("frmMakeVector");
+    Boxes[box].BoxText = "[" + frmMakeVector.txtMin.Text + ":" + frmMakeVector.txtStep.Text + ":" +
+                         frmMakeVector.txtMax.Text + "];";
+    frmMakeVector = {};
+}
+
+namespace {
+
+struct Contents {
+    const char* Index;
+    const char* Caption;
+    const char* Word;
+};
+// Index, caption, function. No button sends the last index.
+constexpr Contents contents[] = {
+    {"0", "Ones", "ones"},    {"1", "Zeros", "zeros"},
+    {"2", "Identity", "eye"}, {"3", "Uniformly Distibuted Random Numbers", "rand"},
+    {"4", "", "randn"},
+};
+
+}  // namespace
+
+void frmMakeMat_Load() {
+    frmMakeMat = {};
+    frmMakeMat.Form = {.Caption = "Create a Matrix", .Loaded = true};
+    for (int i = 0; i <= 3; ++i) frmMakeMat.opn[i].Caption = contents[i].Caption;
+}
+
+void frmMakeMat_opn_Click(int Index) { frmMakeMat.txtOpn = NumberText(Index); }
+
+void frmMakeMat_cmdOK_Click() { frmMakeMat.Form.Visible = false; }
+
+Form frmMakeMat_Table() {
+    Form form{.Name = "frmMakeMat",
+              .State = &frmMakeMat.Form,
+              .Controls = {{"txtRows", &frmMakeMat.txtRows},
+                           {"txtCols", &frmMakeMat.txtCols},
+                           {"Option1", &frmMakeMat.Option1},
+                           {"cmdOK", &frmMakeMat.cmdOK, frmMakeMat_cmdOK_Click}}};
+    for (int i = 0; i <= 3; ++i) {
+        form.Controls.push_back(
+            {"opn(" + NumberText(i) + ")", &frmMakeMat.opn[i], [i] { frmMakeMat_opn_Click(i); }});
+    }
+    return form;
+}
+
+void CompleteMakeMat(int box) {
+    frmMakeMat_Load();
+    desktop->ShowModal("frmMakeMat");
+    auto& text = Boxes[box].BoxText;
+    for (const auto& row : contents) {
+        if (frmMakeMat.txtOpn == row.Index) text = row.Word;
+    }
+    text += "(" + frmMakeMat.txtRows.Text + "," + frmMakeMat.txtCols.Text + ")";
+    frmMakeMat = {};
+}
+
+void frmSplit_Load() {
+    frmSplit = {};
+    frmSplit.Form = {.Caption = "Matrix Split", .Loaded = true};
+}
+
+void frmSplit_txtTo_Change() {
+    if (frmSplit.txtFrom.Text.empty()) frmSplit.txtFrom.Text = "1";
+}
+
+void frmSplit_cmdOK_Click() { frmSplit.Form.Visible = false; }
+
+Form frmSplit_Table() {
+    return {.Name = "frmSplit",
+            .State = &frmSplit.Form,
+            .Controls = {{"row", &frmSplit.row},
+                         {"Col", &frmSplit.Col},
+                         {"txtFrom", &frmSplit.txtFrom},
+                         {"txtTo", &frmSplit.txtTo, frmSplit_txtTo_Change},
+                         {"cmdOK", &frmSplit.cmdOK, frmSplit_cmdOK_Click}}};
+}
+
+void CompleteSplit(int box) {
+    frmSplit_Load();
+    desktop->ShowModal("frmSplit");
+    // A selected option button has always counted as -1 here and "Row" was asked of 1, so that no
+    // diagram holds a split by rows.
+    constexpr int Selected = -1;
+    const int row = frmSplit.row.Value ? Selected : 0;
+    std::string text = row == 1 ? "Row" : "Col";
+    const auto& from = frmSplit.txtFrom.Text;
+    const auto& to = frmSplit.txtTo.Text;
+    text += (from.empty() ? "1" : from) + ":";
+    text += to.empty() || to == "____" ? "1" : to;
+    std::erase(text, '_');
+    Boxes[box].BoxText = text;
+    frmSplit = {};
+}
+
+}  // namespace quorvane

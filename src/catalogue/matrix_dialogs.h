@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "platform/checked_array.h"
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// The dialogs of the boxes that make and cut matrices. Each Complete routine runs its dialog for
+/// the armed box of that number and packs the fields, as typed, into BoxText.
+
+/// "Vector Make Input": a linearly spaced vector.
+struct MakeVectorForm {
+    FormState Form;
+    TextBox txtMin{"1"};
+    TextBox txtStep{"1"};
+    TextBox txtMax{"1"};
+    Button cmdOK{"OK"};
+};
+extern MakeVectorForm frmMakeVector;
+void frmMakeVector_Load();
+void frmMakeVector_cmdOK_Click();
+Form frmMakeVector_Table();
+void CompleteMakeVector(int box);
+
+/// "Matrix Make Input": the size of a matrix and what fills it. Option1 stands outside the array,
+/// so that taking it leaves the index clicked before.
+struct MakeMatForm {
+    FormState Form;
+    TextBox txtRows{"1"};
+    TextBox txtCols{"1"};
+    CheckedArray<OptionButton, 0, 3> opn;
+    OptionButton Option1{.Caption = "Normaly Distibuted Random Numbers"};
+    std::string txtOpn = "0";  ///< The index last clicked, as decimal text
+    Button cmdOK{"OK"};
+};
+extern MakeMatForm frmMakeMat;
+void frmMakeMat_Load();
+void frmMakeMat_opn_Click(int Index);
+void frmMakeMat_cmdOK_Click();
+Form frmMakeMat_Table();
+void CompleteMakeMat(int box);
+
+/// "Split": a range of rows or columns.
+struct SplitForm {
+    FormState Form;
+    OptionButton row{.Caption = "Row"};
+    OptionButton Col{.Caption = "Column"};
+    TextBox txtFrom;
+    TextBox txtTo;
+    Button cmdOK{"OK"};
+};
+extern SplitForm frmSplit;
+void frmSplit_Load();
+void frmSplit_txtTo_Change();
+void frmSplit_cmdOK_Click();
+Form frmSplit_Table();
+void CompleteSplit(int box);
+
+}  // namespace quorvane

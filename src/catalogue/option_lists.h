@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "diagram/box_table.h"
+#include "platform/checked_array.h"
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// An option of a list and what it makes of the box.
+struct ListOption {
+    /// Its index in the array; NoIndex for a button of its own, which leaves the remembered index.
+    int Index;
+    std::string_view Caption;  ///< "" for a row that has no button
+    std::string_view BoxType;  ///< "" when it is not written
+    const char* BoxText;       ///< nullptr when it is not written; "{field}": the further field
+    const char* Entries;       ///< The open ones by their digits; nullptr for the list's default
+    std::string_view Control;  ///< The name of a button of its own
+};
+constexpr int NoIndex = -1;
+
+/// The field that some lists have beside their options.
+struct ListField {
+    enum class Kind { None, Text, Check };
+    Kind What = Kind::None;
+    std::string_view Control = "";
+    std::string_view Caption = "";
+    std::string_view Default = "";
+    int Beside = NoIndex;    ///< Index of the option that the field belongs to
+    bool SkipEmpty = false;  ///< An empty field writes no text
+};
+
+/// A dialog in which one of a list is picked. All of them are alike and know nothing of boxes: the
+/// row of the picked option tells what the box becomes.
+struct OptionList {
+    std::string_view Dialog;
+    std::string_view Caption;
+    std::string_view FrameCaption;
+    const char* Entries;  ///< Open entries where an option names none
+    std::vector<ListOption> Options;
+    ListField Field = {};
+    std::string_view Array = "opn";  ///< The name of the option array
+    std::string_view FirstIndex = "0";
+};
+extern const std::vector<OptionList> optionLists;
+
+/// The list of this dialog, nullptr when it is none.
+const OptionList* FindOptionList(std::string_view dialog);
+
+/// The object name of an option: "opn(3)", "btnOps(1)", "add"; "" where there is no button.
+std::string OptionName(const OptionList& list, const ListOption& option);
+
+/// Rows of the longest list.
+constexpr int MaxOptions = 14;
+
+/// The one record of all these dialogs: one stands at a time.
+struct OptionListForm {
+    FormState Form;
+    const OptionList* List = nullptr;
+    CheckedArray<OptionButton, 0, MaxOptions - 1> Options;  ///< By their rows in the list
+    std::string txtOpn;  ///< The index last clicked, as decimal text
+    TextBox Field;       ///< The further field that holds text
+    CheckBox chkElement;
+    Button cmdOK;
+};
+extern OptionListForm frmOptionList;
+
+void frmOptionList_Load(const OptionList& list);
+/// A click on the option in this row of the list.
+void frmOptionList_Option_Click(int row);
+void frmOptionList_Field_Change();
+void frmOptionList_cmdOK_Click();
+/// The form of a list, named after its dialog.
+Form OptionList_Table(const OptionList& list);
+
+/// Runs the dialog of a list for a box and writes what the picked option says; false when none was
+/// picked, which only the arithmetic operators allow.
+bool RunOptionList(const OptionList& list, Box& box);
+
+}  // namespace quorvane

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#include "diagram/comment_form.h"
+
+namespace quorvane {
+
+CommentForm frmComment;
+
+namespace {
+
+constexpr int LongestComment = 100;
+
+bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
+}  // namespace
+
+void frmComment_Load() {
+    frmComment = {};
+    frmComment.Form.Loaded = true;
+}
+
+void frmComment_txtComment_Change() {
+    auto& text = frmComment.txtComment.Text;
+    int characters = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (BeginsCharacter(text[i]) && ++characters > LongestComment) {
+            text.resize(i);
+            return;
+        }
+    }
+}
+
+void frmComment_cmdOK_Click() { frmComment.Form.Visible = false; }
+
+Form frmComment_Table() {
+    return {"frmComment",
+            &frmComment.Form,
+            {{"txtComment", &frmComment.txtComment, frmComment_txtComment_Change},
+             {"cmdOK", &frmComment.cmdOK, frmComment_cmdOK_Click}}};
+}
+
+}  // namespace quorvane

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// The dialog in which the text of a comment is written. Whoever opens it puts the text in and
+/// takes it out.
+struct CommentForm {
+    FormState Form = {.Caption = "Add a Comment"};
+    TextBox txtComment;
+    Button cmdOK = {.Caption = "OK"};
+};
+extern CommentForm frmComment;
+
+void frmComment_Load();
+/// Cuts the text to 100 characters; a character of more bytes than one isn't cut apart.
+void frmComment_txtComment_Change();
+void frmComment_cmdOK_Click();
+Form frmComment_Table();
+
+}  // namespace quorvane

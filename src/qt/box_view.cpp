@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: MIT
+#include "qt/box_view.h"
+
+#include <QApplication>
+#include <QDrag>
+#include <QKeyEvent>
+#include <QMimeData>
+#include <QPainter>
+
+#include "diagram/box_table.h"
+#include "diagram/worksheet_events.h"
+#include "qt/dispatch.h"
+#include "qt/icon_strip.h"
+#include "qt/mouse.h"
+#include "qt/screen_units.h"
+
+namespace quorvane {
+
+BoxView::BoxView(int document, int number, QWidget* surface)
+    : QWidget(surface), document_(document), number_(number) {
+    setObjectName(QString("box(%1)").arg(number));
+    setMouseTracking(true);
+    setFocusPolicy(Qt::TabFocus);
+}
+
+Worksheet& BoxView::Sheet() const { return DocumentWindow(document_); }
+
+void BoxView::Refresh(const BoxControl& control) {
+    const QRect place(ToPixels(control.Left), ToPixels(control.Top), ToPixels(control.Width),
+                      ToPixels(control.Height));
+    if (geometry() != place) setGeometry(place);
+    if (picture_ != control.Picture) {
+        picture_ = control.Picture;
+        update();
+    }
+    if (pointer_ != control.MousePointer) {
+        pointer_ = control.MousePointer;
+        pointer_ == PointerDefault ? unsetCursor() : setCursor(PointerShape(pointer_));
+    }
+    if (dragAutomatic_ != control.DragAutomatic) {
+        dragAutomatic_ = control.DragAutomatic;
+        update();
+    }
+    if (isVisibleTo(parentWidget()) != control.Visible) {
+        const auto& box = BoxOrFree(number_);
+        setAccessibleName(ToScreen(BoxName(number_) + " " + box.BoxType));
+        setVisible(control.Visible);
+        if (control.Visible) raise();
+    }
+}
+
+void BoxView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(
+        QPen(hasFocus() ? QColor(0xFF, 0xB3, 0x00) : QColor(0x3A, 0x42, 0x4C), hasFocus() ? 2 : 1));
+    painter.setBrush(QColor(0xFB, 0xFB, 0xF8));
+    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
+    const auto face = CellPixmap(picture_, width() - 3, devicePixelRatioF());
+    painter.drawPixmap(QPointF(1.5, 1.5), face);
+}
+
+void BoxView::mousePressEvent(QMouseEvent* event) {
+    pressed_ = event->button() == Qt::LeftButton;
+    pressedAt_ = event->pos();
+    Dispatch([&] {
+        box_MouseDown(Sheet(), number_, ButtonNumber(event->button()),
+                      ShiftNumber(event->modifiers()));
+    });
+}
+
+void BoxView::mouseMoveEvent(QMouseEvent* event) {
+    if (pressed_ && dragAutomatic_) {
+        const auto moved = (event->pos() - pressedAt_).manhattanLength();
+        if (moved >= QApplication::startDragDistance()) StartDrag();
+        return;
+    }
+    Dispatch([&] { box_MouseMove(Sheet(), number_); });
+}
+
+void BoxView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton || !pressed_) return;
+    pressed_ = false;
+    if (!dragAutomatic_ && rect().contains(event->pos())) Click();
+}
+
+void BoxView::Click() {
+    Dispatch([&] { box_Click(Sheet(), number_); });
+}
+
+/// Enter or the blank clicks the box; with Shift they ask for its information.
+void BoxView::keyPressEvent(QKeyEvent* event) {
+    const auto key = event->key();
+    if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space) {
+        QWidget::keyPressEvent(event);
+        return;
+    }
+    if (event->modifiers() & Qt::ShiftModifier) {
+        Dispatch([&] { box_MouseDown(Sheet(), number_, MiddleButton, 0); });
+    } else {
+        Click();
+    }
+}
+
+void BoxView::StartDrag() {
+    pressed_ = false;
+    auto* drag = new QDrag(this);
+    auto* carried = new QMimeData;
+    carried->setData(BoxMimeType, QByteArray::number(number_));
+    drag->setMimeData(carried);
+    drag->setPixmap(grab());
+    drag->setHotSpot(rect().center());
+    drag->exec(Qt::MoveAction);
+}
+
+}  // namespace quorvane

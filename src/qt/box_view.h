@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+#include "diagram/worksheet.h"
+
+namespace quorvane {
+
+/// The type under which a dragged box travels; its data is the box's number.
+constexpr const char* BoxMimeType = "application/x-quorvane-box";
+
+/// The control of one box on a worksheet.
+class BoxView : public QWidget {
+public:
+    BoxView(int document, int number, QWidget* surface);
+    /// Takes over what has changed in the record.
+    void Refresh(const BoxControl& control);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    Worksheet& Sheet() const;
+    void StartDrag();
+    void Click();
+
+    int document_;
+    int number_;
+    int picture_ = -1;
+    int pointer_ = -1;
+    bool dragAutomatic_ = false;
+    bool pressed_ = false;
+    QPoint pressedAt_;
+};
+
+}  // namespace quorvane

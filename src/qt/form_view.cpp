@@ -1,0 +1,229 @@
+// SPDX-License-Identifier: MIT
+#include "qt/form_view.h"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLayout>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+
+#include "qt/dispatch.h"
+#include "qt/form_layouts.h"
+#include "qt/icon_strip.h"
+#include "qt/option_list_layout.h"
+#include "qt/screen_units.h"
+
+namespace quorvane {
+
+namespace {
+
+QList<FormView*> openForms;
+
+constexpr int PreviewPixels = 64;
+
+// Show: a record on its control.
+
+void Show(const Label& record, QWidget* control) {
+    auto* label = qobject_cast<QLabel*>(control);
+    if (label && label->text() != ToScreen(record.Caption))
+        label->setText(ToScreen(record.Caption));
+    control->setVisible(record.Visible);
+}
+
+void Show(const TextBox& record, QWidget* control) {
+    const auto text = ToScreen(record.Text);
+    if (auto* line = qobject_cast<QLineEdit*>(control); line && line->text() != text) {
+        line->setText(text);
+    }
+    if (auto* edit = qobject_cast<QPlainTextEdit*>(control); edit && edit->toPlainText() != text) {
+        edit->setPlainText(text);
+    }
+    control->setVisible(record.Visible);
+    control->setEnabled(record.Enabled);
+}
+
+void Show(const Button& record, QWidget* control) {
+    auto* button = qobject_cast<QAbstractButton*>(control);
+    if (button && !record.Caption.empty()) button->setText(ToScreen(record.Caption));
+    control->setVisible(record.Visible);
+    control->setEnabled(record.Enabled);
+}
+
+void Show(const CheckBox& record, QWidget* control) {
+    if (auto* box = qobject_cast<QCheckBox*>(control)) box->setChecked(record.Value != 0);
+    control->setVisible(record.Visible);
+    control->setEnabled(record.Enabled);
+}
+
+void Show(const OptionButton& record, QWidget* control) {
+    if (auto* option = qobject_cast<QRadioButton*>(control)) {
+        if (record.Value) option->setChecked(true);
+        if (!record.Caption.empty()) option->setText(ToScreen(record.Caption));
+    }
+    control->setEnabled(record.Enabled);
+}
+
+void Show(const ComboBox& record, QWidget* control) {
+    auto* combo = qobject_cast<QComboBox*>(control);
+    if (!combo) return;
+    QStringList items;
+    for (const auto& item : record.List) items.append(ToScreen(item));
+    QStringList shown;
+    for (int i = 0; i < combo->count(); ++i) shown.append(combo->itemText(i));
+    if (shown != items) {
+        combo->clear();
+        combo->addItems(items);
+    }
+    const auto text = ToScreen(record.Text);
+    combo->setCurrentIndex(combo->findText(text));
+    if (combo->isEditable() && combo->currentText() != text) combo->setEditText(text);
+    combo->setEnabled(record.Enabled);
+}
+
+void Show(const PictureBox& record, QWidget* control) {
+    if (auto* label = qobject_cast<QLabel*>(control)) {
+        label->setPixmap(CellPixmap(record.Picture, PreviewPixels, control->devicePixelRatioF()));
+    }
+}
+
+void Show(const ScrollBar& record, QWidget* control) {
+    if (auto* slider = qobject_cast<QAbstractSlider*>(control)) {
+        slider->setRange(record.Min, record.Max);
+        slider->setValue(record.Value);
+    }
+    control->setEnabled(record.Enabled);
+}
+
+// Take: what the user did into the record.
+
+void Take(Label&, QWidget*) {}
+void Take(Button&, QWidget*) {}
+void Take(PictureBox&, QWidget*) {}
+
+void Take(TextBox& record, QWidget* control) {
+    if (auto* line = qobject_cast<QLineEdit*>(control)) record.Text = ToCore(line->text());
+    if (auto* edit = qobject_cast<QPlainTextEdit*>(control)) {
+        record.Text = ToCore(edit->toPlainText());
+    }
+}
+
+void Take(CheckBox& record, QWidget* control) {
+    if (auto* box = qobject_cast<QCheckBox*>(control)) record.Value = box->isChecked() ? 1 : 0;
+}
+
+void Take(OptionButton& record, QWidget* control) {
+    if (auto* option = qobject_cast<QRadioButton*>(control)) record.Value = option->isChecked();
+}
+
+void Take(ComboBox& record, QWidget* control) {
+    if (auto* combo = qobject_cast<QComboBox*>(control)) record.Text = ToCore(combo->currentText());
+}
+
+void Take(ScrollBar& record, QWidget* control) {
+    if (auto* slider = qobject_cast<QAbstractSlider*>(control)) {
+        record.Value = static_cast<std::int16_t>(slider->value());
+    }
+}
+
+QWidget* ControlOf(const FormView& view, const ControlRow& row) {
+    return view.findChild<QWidget*>(QString::fromStdString(row.Name));
+}
+
+/// Gives a member of an array, "x_1" in the layout, its name "x(1)".
+void NameControl(FormView& view, const ControlRow& row) {
+    const auto name = ToScreen(row.Name);
+    if (!name.endsWith(')')) return;
+    auto inLayout = name.chopped(1);
+    inLayout.replace('(', '_');
+    if (auto* control = view.findChild<QWidget*>(inLayout)) control->setObjectName(name);
+}
+
+void TakeAll(const FormView& view, const Form& form) {
+    for (const auto& row : form.Controls) {
+        if (auto* control = ControlOf(view, row)) {
+            std::visit([&](auto* record) { Take(*record, control); }, row.Record);
+        }
+    }
+}
+
+}  // namespace
+
+FormView::FormView(const Form& form, QWidget* parent) : QDialog(parent), form_(form) {
+    setObjectName(ToScreen(form.Name));
+    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    if (const auto* list = FindOptionList(form.Name)) {
+        SetUpOptionList(*list, this);
+    } else {
+        SetUpLayout(objectName(), this);
+    }
+    if (layout()) layout()->setSizeConstraint(QLayout::SetFixedSize);
+    for (const auto& row : form.Controls) NameControl(*this, row);
+    for (const auto& row : form.Controls) {
+        if (auto* control = ControlOf(*this, row)) Connect(row, control);
+    }
+    for (const char* name : {"cmdOK", "cmd"}) {
+        if (auto* ok = findChild<QPushButton*>(name)) ok->setDefault(true);
+    }
+    openForms.append(this);
+}
+
+FormView::~FormView() { openForms.removeOne(this); }
+
+void FormView::Connect(const ControlRow& row, QWidget* control) {
+    const auto run = [this, &row] {
+        Dispatch([&] {
+            TakeAll(*this, form_);
+            if (row.Event) row.Event();
+        });
+    };
+    if (auto* line = qobject_cast<QLineEdit*>(control)) {
+        connect(line, &QLineEdit::textEdited, this, run);
+    } else if (auto* edit = qobject_cast<QPlainTextEdit*>(control)) {
+        connect(edit, &QPlainTextEdit::textChanged, this, run);
+    } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
+        connect(combo, &QComboBox::currentTextChanged, this, run);
+    } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
+        connect(button, &QAbstractButton::clicked, this, run);
+    } else if (auto* slider = qobject_cast<QAbstractSlider*>(control)) {
+        connect(slider, &QAbstractSlider::valueChanged, this, run);
+    }
+}
+
+void FormView::Refresh() {
+    if (!form_.State->Visible) {
+        if (isVisible()) done(Accepted);
+        return;
+    }
+    setWindowTitle(ToScreen(form_.State->Caption));
+    for (const auto& row : form_.Controls) {
+        auto* control = ControlOf(*this, row);
+        if (!control) continue;
+        const QSignalBlocker quiet(control);
+        std::visit([&](auto* record) { Show(*record, control); }, row.Record);
+    }
+}
+
+/// Escape presses Cancel where a form has it, and does nothing elsewhere: no box dialog can be left
+/// without an answer.
+void FormView::reject() {
+    if (auto* cancel = findChild<QPushButton*>("cmdCancel")) cancel->click();
+}
+
+void FormView::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    if (form_.Activated)
+        QMetaObject::invokeMethod(
+            this, [this] { Dispatch(form_.Activated); }, Qt::QueuedConnection);
+}
+
+void RefreshForms() {
+    const auto forms = openForms;
+    for (auto* form : forms) form->Refresh();
+}
+
+}  // namespace quorvane

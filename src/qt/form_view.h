@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QDialog>
+
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// A dialog on the screen: the layout of the form's name with the controls of its table. What the
+/// user does is copied into the records before a handler runs, and the records are shown after it.
+class FormView : public QDialog {
+public:
+    FormView(const Form& form, QWidget* parent);
+    ~FormView() override;
+    /// Shows the records; a form that has hidden itself ends.
+    void Refresh();
+
+protected:
+    void reject() override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void Connect(const ControlRow& row, QWidget* control);
+
+    const Form& form_;
+};
+
+/// Shows the records on every form that is on the screen.
+void RefreshForms();
+
+}  // namespace quorvane

@@ -1,0 +1,182 @@
+// SPDX-License-Identifier: MIT
+#include "qt/frame_view.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCursor>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+
+#include "files/close_document.h"
+#include "qt/dispatch.h"
+#include "qt/form_view.h"
+#include "qt/worksheet_view.h"
+#include "shell/frame.h"
+
+namespace quorvane {
+
+FrameView* frameView = nullptr;
+
+namespace {
+
+/// A worksheet's window, which is closed by the rules of its document.
+class WorksheetWindow : public QMdiSubWindow {
+public:
+    explicit WorksheetWindow(WorksheetView* view) : view_(view) {
+        setWidget(view);
+        resize(640, 480);
+    }
+
+protected:
+    void closeEvent(QCloseEvent* event) override {
+        event->ignore();
+        const int document = view_->Document();
+        Dispatch([document] { CloseDocument(document); });
+    }
+    void changeEvent(QEvent* event) override {
+        QMdiSubWindow::changeEvent(event);
+        if (event->type() != QEvent::WindowStateChange) return;
+        if (Documents.UpperBound() < view_->Document() || !Documents[view_->Document()]) return;
+        DocumentWindow(view_->Document()).Minimized = isMinimized();
+    }
+
+private:
+    WorksheetView* view_;
+};
+
+}  // namespace
+
+FrameView::FrameView() {
+    frameView = this;
+    setObjectName("frmMDI");
+    setWindowTitle("Quorvane");
+    area_ = new QMdiArea(this);
+    area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setCentralWidget(area_);
+    frameMenus_ = MakeFrameMenus(this);
+    documentMenus_ = MakeDocumentMenus(this);
+    connect(area_, &QMdiArea::subWindowActivated, this, &FrameView::Activated);
+    RefreshScreen = [this] { Refresh(); };
+    resize(1000, 720);
+    Refresh();
+}
+
+WorksheetView* FrameView::ViewOf(int document) const {
+    for (auto* window : area_->subWindowList()) {
+        auto* view = static_cast<WorksheetView*>(window->widget());
+        if (view->Document() == document) return view;
+    }
+    return nullptr;
+}
+
+void FrameView::OpenWindow(int document) {
+    auto* window = new WorksheetWindow(new WorksheetView(document));
+    window->setAttribute(Qt::WA_DeleteOnClose, false);
+    area_->addSubWindow(window);
+    window->show();
+}
+
+/// Takes down the windows whose documents are gone.
+void FrameView::CloseMissing() {
+    for (auto* window : area_->subWindowList()) {
+        const int document = static_cast<WorksheetView*>(window->widget())->Document();
+        if (document <= Documents.UpperBound() && Documents[document]) continue;
+        if (activeDocument == document) activeDocument = 0;
+        area_->removeSubWindow(window);
+        window->hide();
+        window->deleteLater();
+    }
+}
+
+void FrameView::Refresh() {
+    CloseMissing();
+    for (int i = 1; i <= Documents.UpperBound(); ++i) {
+        if (!Documents[i] || !Documents[i]->Shown) continue;
+        if (!ViewOf(i)) OpenWindow(i);
+        if (auto* view = ViewOf(i)) view->Refresh();
+    }
+    ShowMenus();
+    RefreshForms();
+}
+
+void FrameView::Activated(QMdiSubWindow* window) {
+    // The area reports "none" also while the whole program is in the background.
+    if (!window && area_->currentSubWindow()) return;
+    activeDocument = window ? static_cast<WorksheetView*>(window->widget())->Document() : 0;
+    ShowMenus();
+}
+
+void FrameView::ShowMenus() {
+    const bool ofDocument = activeDocument > 0;
+    if (!showsAny_ || showsDocumentMenus_ != ofDocument) {
+        menuBar()->clear();
+        const auto& set = ofDocument ? documentMenus_ : frameMenus_;
+        const auto& other = ofDocument ? frameMenus_ : documentMenus_;
+        for (auto* menu : set.Menus) menuBar()->addMenu(menu);
+        // A shortcut of the bar that isn't shown must not work.
+        for (auto* menu : set.Menus) menu->menuAction()->setVisible(true);
+        for (auto* menu : other.Menus) menu->menuAction()->setVisible(false);
+        showsAny_ = true;
+        showsDocumentMenus_ = ofDocument;
+    }
+    if (ofDocument) {
+        RefreshDocumentMenus(documentMenus_, activeDocument);
+        ListWindows();
+    } else {
+        RefreshFrameMenus(frameMenus_);
+    }
+}
+
+/// The open worksheets stand below the commands of the Windows menu.
+void FrameView::ListWindows() {
+    auto* menu = findChild<QMenu*>("mnuWindowsMenu");
+    const auto windows = area_->subWindowList();
+    while (windowList_.size() > windows.size() + 1) delete windowList_.takeLast();
+    if (windowList_.isEmpty()) windowList_.append(menu->addSeparator());
+    for (int i = 0; i < windows.size(); ++i) {
+        if (windowList_.size() < i + 2) {
+            auto* action = menu->addAction(QString());
+            action->setCheckable(true);
+            action->setObjectName(QString("mnuWindowList(%1)").arg(i + 1));
+            connect(action, &QAction::triggered, this, [this, i] {
+                const auto open = area_->subWindowList();
+                if (i < open.size()) area_->setActiveSubWindow(open[i]);
+                ShowMenus();
+            });
+            windowList_.append(action);
+        }
+        auto* view = static_cast<WorksheetView*>(windows[i]->widget());
+        auto* action = windowList_[i + 1];
+        const auto title = view->windowTitle();
+        const auto text = QString("&%1 %2").arg(i + 1).arg(QString(title).replace("&", "&&"));
+        if (action->text() != text) action->setText(text);
+        action->setChecked(view->Document() == activeDocument);
+    }
+}
+
+void FrameView::Arrange(int how) {
+    if (how == 0) area_->cascadeSubWindows();
+    if (how == 1) area_->tileSubWindows();
+    if (how != 2) return;
+    // Icons of minimised worksheets go to the lower edge, side by side.
+    int x = 0;
+    for (auto* window : area_->subWindowList()) {
+        if (!window->isMinimized()) continue;
+        window->move(x, area_->viewport()->height() - window->height());
+        x += window->width();
+    }
+}
+
+void FrameView::PopupMenu(const QString& control) {
+    if (auto* menu = findChild<QMenu*>(control + "Menu")) menu->popup(QCursor::pos());
+}
+
+void FrameView::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Dispatch([] { UnloadFrame(); });
+}
+
+}  // namespace quorvane

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QList>
+#include <QMainWindow>
+
+#include "qt/menu_bar.h"
+
+class QMdiArea;
+class QMdiSubWindow;
+
+namespace quorvane {
+
+class WorksheetView;
+
+/// The frame: one window that holds the worksheets, with the menu bar of the active one.
+class FrameView : public QMainWindow {
+public:
+    FrameView();
+    /// Shows the records on every window: worksheets come and go as the documents do.
+    void Refresh();
+    void Arrange(int how);
+    QMdiArea* Area() const { return area_; }
+    /// Pops up the menu of this control at the pointer.
+    void PopupMenu(const QString& control);
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    WorksheetView* ViewOf(int document) const;
+    void OpenWindow(int document);
+    void CloseMissing();
+    void Activated(QMdiSubWindow* window);
+    void ShowMenus();
+    void ListWindows();
+
+    QMdiArea* area_;
+    MenuSet frameMenus_;
+    MenuSet documentMenus_;
+    bool showsDocumentMenus_ = false;
+    bool showsAny_ = false;
+    QList<QAction*> windowList_;
+};
+
+/// The frame of the program; nullptr before it is made.
+extern FrameView* frameView;
+
+}  // namespace quorvane

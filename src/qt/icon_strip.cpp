@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: MIT
+#include "qt/icon_strip.h"
+
+#include <QFile>
+#include <QHash>
+#include <QPainter>
+#include <QSvgRenderer>
+
+namespace quorvane {
+
+namespace {
+
+QPixmap Draw(int cell, int devicePixels) {
+    const auto name = QString(":/icons/%1.svg").arg(cell, 3, 10, QChar('0'));
+    if (!QFile::exists(name)) return {};
+    QSvgRenderer renderer(name);
+    QPixmap pixmap(devicePixels, devicePixels);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    renderer.render(&painter);
+    return pixmap;
+}
+
+}  // namespace
+
+QPixmap CellPixmap(int cell, int pixels, qreal devicePixelRatio) {
+    static QHash<std::pair<int, int>, QPixmap> drawn;
+    const int devicePixels = qRound(pixels * devicePixelRatio);
+    auto& pixmap = drawn[{cell, devicePixels}];
+    if (pixmap.isNull()) pixmap = Draw(cell, devicePixels);
+    pixmap.setDevicePixelRatio(devicePixelRatio);
+    return pixmap;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <cstdio>
+#include <cstdlib>
+
+#include "qt/dispatch.h"
+#include "qt/frame_view.h"
+#include "qt/qt_desktop.h"
+#include "quorvane/version.h"
+#include "shell/application.h"
+
+namespace {
+
+/// Qt tells of a missing screen in many lines and ends by a crash; here it is one line and an
+/// ordinary end.
+void TellFatal(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type != QtFatalMsg) {
+        const bool ofScreen = QByteArray(context.category).startsWith("qt.qpa");
+        if (!ofScreen) std::fprintf(stderr, "%s\n", qPrintable(text));
+        return;
+    }
+    std::fprintf(stderr, "quorvane: There is no screen to show the windows on\n");
+    std::_Exit(1);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qInstallMessageHandler(TellFatal);
+    QApplication application(argc, argv);
+    qInstallMessageHandler(nullptr);
+    QApplication::setApplicationName("Quorvane");
+    QApplication::setOrganizationName("Quorvane");
+    QApplication::setApplicationVersion(QUORVANE_VERSION);
+    QGuiApplication::setDesktopFileName("quorvane");
+    quorvane::ResetApplication();
+    quorvane::QtDesktop desktop;
+    quorvane::desktop = &desktop;
+    quorvane::FrameView frame;
+    frame.show();
+    const int code = QApplication::exec();
+    quorvane::RefreshScreen = [] {};
+    return code;
+}

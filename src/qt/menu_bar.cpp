@@ -1,0 +1,93 @@
+// SPDX-License-Identifier: MIT
+#include "qt/menu_bar.h"
+
+#include <QMenu>
+
+#include "qt/dispatch.h"
+#include "qt/screen_units.h"
+#include "shell/menus.h"
+
+namespace quorvane {
+
+int activeDocument = 0;
+
+namespace {
+
+template <class Row>
+QString ActionName(const Row& row) {
+    const auto name = ToScreen(row.Control);
+    return row.Index < 0 ? name : QString("%1(%2)").arg(name).arg(row.Index);
+}
+
+/// Walks a table of rows by their depth; `choose` is what an entry with a command does.
+template <class Row, class Enabled, class Choose>
+MenuSet MakeMenus(const std::vector<Row>& rows, QWidget* parent, Enabled enabled, Choose choose) {
+    MenuSet set;
+    QList<QMenu*> open;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const Row& row = rows[i];
+        const bool isMenu =
+            row.Depth == 0 || (i + 1 < rows.size() && rows[i + 1].Depth > row.Depth);
+        open.resize(row.Depth);
+        QAction* action = nullptr;
+        if (isMenu) {
+            auto* menu = new QMenu(ToScreen(row.Caption), parent);
+            menu->setObjectName(ToScreen(row.Control) + "Menu");
+            action = menu->menuAction();
+            if (row.Depth == 0) {
+                set.Menus.append(menu);
+            } else {
+                open.last()->addMenu(menu);
+            }
+            open.append(menu);
+        } else if (row.Caption == "-") {
+            action = open.last()->addSeparator();
+        } else {
+            action = open.last()->addAction(ToScreen(row.Caption));
+            action->setShortcut(QKeySequence(ToScreen(row.Shortcut)));
+            action->setEnabled(enabled(row));
+            QObject::connect(action, &QAction::triggered, parent,
+                             [&row, choose] { Dispatch([&] { choose(row); }); });
+        }
+        action->setObjectName(ActionName(row));
+        set.Actions.append(action);
+    }
+    return set;
+}
+
+template <class Rows, class Records>
+void RefreshMenus(const MenuSet& set, const Rows& rows, const Records& records) {
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const auto* record = MenuRecord(records, rows[i].Control, rows[i].Index);
+        if (!record) continue;
+        auto* action = set.Actions[static_cast<int>(i)];
+        if (!record->Caption.empty()) action->setText(ToScreen(record->Caption));
+        action->setCheckable(record->Checked);
+        action->setChecked(record->Checked);
+        action->setVisible(record->Visible);
+    }
+}
+
+}  // namespace
+
+MenuSet MakeFrameMenus(QWidget* parent) {
+    return MakeMenus(
+        frameMenu, parent, [](const FrameMenuRow& row) { return row.Command != nullptr; },
+        [](const FrameMenuRow& row) { row.Command(); });
+}
+
+MenuSet MakeDocumentMenus(QWidget* parent) {
+    return MakeMenus(
+        documentMenu, parent, [](const DocumentMenuRow& row) { return HasCommand(row); },
+        [](const DocumentMenuRow& row) {
+            if (activeDocument > 0) RunMenuCommand(row, DocumentWindow(activeDocument));
+        });
+}
+
+void RefreshFrameMenus(const MenuSet& set) { RefreshMenus(set, frameMenu, frmMDI); }
+
+void RefreshDocumentMenus(const MenuSet& set, int document) {
+    RefreshMenus(set, documentMenu, DocumentWindow(document));
+}
+
+}  // namespace quorvane

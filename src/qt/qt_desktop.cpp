@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: MIT
+#include "qt/qt_desktop.h"
+
+#include <QApplication>
+#include <QClipboard>
+#include <QColorDialog>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QMessageBox>
+#include <QSettings>
+
+#include "platform/runtime_error.h"
+#include "qt/dispatch.h"
+#include "qt/form_view.h"
+#include "qt/frame_view.h"
+#include "qt/matrix_dialog.h"
+#include "qt/page_view_dialog.h"
+#include "qt/screen_units.h"
+#include "qt/shape_painter.h"
+#include "shell/forms.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr int Cancelled = 32755;
+constexpr int NoApplicationAnswered = 282;
+
+QWidget* Parent() {
+    auto* active = QApplication::activeModalWidget();
+    return active ? active : frameView;
+}
+
+struct IconRowQt {
+    Icon Picture;
+    QMessageBox::Icon Shown;
+};
+constexpr IconRowQt icons[] = {
+    {Icon::None, QMessageBox::NoIcon},       {Icon::Information, QMessageBox::Information},
+    {Icon::Question, QMessageBox::Question}, {Icon::Exclamation, QMessageBox::Warning},
+    {Icon::Critical, QMessageBox::Critical},
+};
+
+struct ButtonsRowQt {
+    Buttons Choice;
+    QMessageBox::StandardButtons Shown;
+    QMessageBox::StandardButton Escape;  ///< NoButton: Escape doesn't answer
+};
+const ButtonsRowQt buttonSets[] = {
+    {Buttons::Ok, QMessageBox::Ok, QMessageBox::Ok},
+    {Buttons::YesNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::No},
+    {Buttons::YesNoCancel, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+     QMessageBox::Cancel},
+    {Buttons::AbortRetryIgnore, QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore,
+     QMessageBox::Abort},
+};
+
+Answer AnswerOf(int button) {
+    switch (button) {
+        case QMessageBox::Yes: return Answer::Yes;
+        case QMessageBox::No: return Answer::No;
+        case QMessageBox::Cancel: return Answer::Cancel;
+        case QMessageBox::Abort: return Answer::Abort;
+        case QMessageBox::Retry: return Answer::Retry;
+        case QMessageBox::Ignore: return Answer::Ignore;
+        default: return Answer::Ok;
+    }
+}
+
+/// "Name (*.qvm)|*.qvm|..." as the dialog wants it.
+QStringList NameFilters(const std::string& filter) {
+    const auto parts = ToScreen(filter).split('|');
+    QStringList names;
+    for (int i = 0; i + 1 < parts.size(); i += 2) {
+        const auto pattern = parts[i + 1] == "*.*" ? QString("*") : parts[i + 1];
+        names.append(parts[i].section(" (", 0, 0) + " (" + pattern + ")");
+    }
+    return names;
+}
+
+std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
+                       const std::string& fileName) {
+    QFileDialog dialog(Parent());
+    dialog.setAcceptMode(mode);
+    dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile
+                                                       : QFileDialog::ExistingFile);
+    if (QGuiApplication::platformName() == "offscreen") {
+        dialog.setOption(QFileDialog::DontUseNativeDialog);
+    }
+    const auto filters = NameFilters(filter);
+    dialog.setNameFilters(filters);
+    // A name typed without an ending gets that of the first filter.
+    const auto ending = ToScreen(filter).section('|', 1, 1).section("*.", 1);
+    if (mode == QFileDialog::AcceptSave) dialog.setDefaultSuffix(ending);
+    if (!fileName.empty()) dialog.selectFile(ToScreen(fileName));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
+        throw RuntimeError(Cancelled);
+    }
+    return ToCore(dialog.selectedFiles().constFirst());
+}
+
+QString StoreKey(const std::string& section, const std::string& key) {
+    return ToScreen(section) + "/" + ToScreen(key);
+}
+
+}  // namespace
+
+Answer QtDesktop::MsgBox(const Message& message) {
+    RefreshScreen();
+    QMessageBox box(Parent());
+    for (const auto& row : icons) {
+        if (row.Picture == message.Picture) box.setIcon(row.Shown);
+    }
+    for (const auto& row : buttonSets) {
+        if (row.Choice != message.Choice) continue;
+        box.setStandardButtons(row.Shown);
+        box.setEscapeButton(row.Escape);
+    }
+    box.setWindowTitle(ToScreen(message.Title));
+    box.setTextFormat(Qt::PlainText);
+    box.setText(ToScreen(message.Text));
+    return AnswerOf(box.exec());
+}
+
+std::string QtDesktop::InputBox(const std::string& prompt, const std::string& title,
+                                const std::string& defaultText) {
+    RefreshScreen();
+    QInputDialog dialog(Parent());
+    dialog.setWindowTitle(ToScreen(title));
+    dialog.setLabelText(ToScreen(prompt));
+    dialog.setTextValue(ToScreen(defaultText));
+    dialog.resize(420, dialog.height());
+    return dialog.exec() == QDialog::Accepted ? ToCore(dialog.textValue()) : "";
+}
+
+std::string QtDesktop::OpenFileDialog(const std::string& filter, const std::string& fileName) {
+    RefreshScreen();
+    return AskForFile(QFileDialog::AcceptOpen, filter, fileName);
+}
+
+std::string QtDesktop::SaveFileDialog(const std::string& filter, const std::string& fileName) {
+    RefreshScreen();
+    return AskForFile(QFileDialog::AcceptSave, filter, fileName);
+}
+
+std::int32_t QtDesktop::ColorDialog(std::int32_t start) {
+    RefreshScreen();
+    QColorDialog dialog(ColorOf(start), Parent());
+    if (QGuiApplication::platformName() == "offscreen") {
+        dialog.setOption(QColorDialog::DontUseNativeDialog);
+    }
+    if (dialog.exec() != QDialog::Accepted) throw RuntimeError(Cancelled);
+    return ColorNumber(dialog.selectedColor());
+}
+
+void QtDesktop::ShowModal(std::string_view name) {
+    if (name == "frmPageView") {
+        PageViewDialog(Parent()).exec();
+        return;
+    }
+    if (name == "frmMatrix") {
+        MatrixDialog(Parent()).exec();
+        return;
+    }
+    const auto* form = FindForm(name);
+    if (!form) return;
+    form->State->Visible = true;
+    FormView view(*form, Parent());
+    view.Refresh();
+    view.exec();
+}
+
+void QtDesktop::PopupMenu(std::string_view menu) { frameView->PopupMenu(ToScreen(menu)); }
+
+void QtDesktop::ArrangeWindows(int how) { frameView->Arrange(how); }
+
+void QtDesktop::SetClipboardText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(ToScreen(text));
+}
+
+void QtDesktop::EndProgram() { QCoreApplication::quit(); }
+
+void QtDesktop::LinkOpen() { throw RuntimeError(NoApplicationAnswered); }
+void QtDesktop::LinkExecute(const std::string&) { throw RuntimeError(NoApplicationAnswered); }
+std::string QtDesktop::LinkRequest() { return ""; }
+void QtDesktop::StartMatlab() {}
+
+std::string QtDesktop::ReadStore(const std::string& section, const std::string& key) {
+    return ToCore(QSettings().value(StoreKey(section, key)).toString());
+}
+
+void QtDesktop::WriteStore(const std::string& section, const std::string& key,
+                           const std::string& value) {
+    QSettings().setValue(StoreKey(section, key), ToScreen(value));
+}
+
+std::vector<std::pair<std::string, std::string>> QtDesktop::ReadStoreSection(
+    const std::string& section) {
+    QSettings store;
+    store.beginGroup(ToScreen(section));
+    std::vector<std::pair<std::string, std::string>> rows;
+    for (const auto& key : store.childKeys()) {
+        rows.emplace_back(ToCore(key), ToCore(store.value(key).toString()));
+    }
+    return rows;
+}
+
+}  // namespace quorvane

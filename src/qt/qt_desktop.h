@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/desktop.h"
+
+namespace quorvane {
+
+/// The desktop of the application: dialogs of the window system, its clipboard and its settings.
+struct QtDesktop : Desktop {
+    Answer MsgBox(const Message& message) override;
+    std::string InputBox(const std::string& prompt, const std::string& title,
+                         const std::string& defaultText) override;
+    std::string OpenFileDialog(const std::string& filter, const std::string& fileName) override;
+    std::string SaveFileDialog(const std::string& filter, const std::string& fileName) override;
+    std::int32_t ColorDialog(std::int32_t start) override;
+    void ShowModal(std::string_view form) override;
+    void PopupMenu(std::string_view menu) override;
+    void ArrangeWindows(int how) override;
+    void SetClipboardText(const std::string& text) override;
+    void EndProgram() override;
+    void LinkOpen() override;
+    void LinkExecute(const std::string& script) override;
+    std::string LinkRequest() override;
+    void StartMatlab() override;
+    std::string ReadStore(const std::string& section, const std::string& key) override;
+    void WriteStore(const std::string& section, const std::string& key,
+                    const std::string& value) override;
+    std::vector<std::pair<std::string, std::string>> ReadStoreSection(
+        const std::string& section) override;
+};
+
+}  // namespace quorvane

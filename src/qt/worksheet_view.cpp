@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: MIT
+#include "qt/worksheet_view.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <QToolButton>
+
+#include "catalogue/icon_table.h"
+#include "diagram/connections.h"
+#include "diagram/layout.h"
+#include "qt/box_view.h"
+#include "qt/dispatch.h"
+#include "qt/icon_strip.h"
+#include "qt/screen_units.h"
+#include "qt/shape_painter.h"
+#include "qt/surface_view.h"
+
+namespace quorvane {
+
+namespace {
+
+/// The face of pnlArrow: the line colour, and the arrow while multiple arrows are on.
+QIcon ArrowPanelFace(const ArrowPanel& panel, const QSize& size, qreal ratio) {
+    QPixmap face(size * ratio);
+    face.setDevicePixelRatio(ratio);
+    face.fill(ColorOf(panel.BackColor));
+    if (panel.HoldsArrow) {
+        SelectBoxIcon("Arrow");
+        const int side = qMin(size.width(), size.height());
+        QPainter painter(&face);
+        painter.drawPixmap((size.width() - side) / 2, 0, CellPixmap(Clip(), side, ratio));
+    }
+    return face;
+}
+
+void FollowRecord(QScrollBar* bar, const SheetScrollBar& record) {
+    const QSignalBlocker quiet(bar);
+    bar->setGeometry(ToPixels(record.Place));
+    bar->setRange(record.Min, record.Max);
+    bar->setSingleStep(record.SmallChange);
+    bar->setPageStep(record.LargeChange);
+    bar->setValue(record.Value);
+}
+
+}  // namespace
+
+WorksheetView::WorksheetView(int document) : document_(document) {
+    setObjectName("main");
+    surface_ = new SurfaceView(document, this);
+    bubble_ = new QLabel(surface_);
+    bubble_->setObjectName("txtboxname");
+    bubble_->setAttribute(Qt::WA_TransparentForMouseEvents);
+    bubble_->setStyleSheet(
+        "background: #fffbe0; color: #202020; border: 1px solid #807840; padding: 1px 4px;");
+    bubble_->hide();
+    MakeBars();
+    setFocusProxy(surface_);
+    setMinimumSize(220, 120);
+}
+
+void WorksheetView::MakeBars() {
+    gauge_ = new QProgressBar(this);
+    gauge_->setObjectName("pnlResource");
+    gauge_->setAccessibleName("Boxes in use");
+    gauge_->setToolTip("The share of the 350 boxes that are in use");
+    gauge_->setAlignment(Qt::AlignCenter);
+    arrowPanel_ = new QToolButton(this);
+    arrowPanel_->setObjectName("pnlArrow");
+    arrowPanel_->setAccessibleName("Multiple arrows");
+    arrowPanel_->setToolTip(
+        "The colour of new boxes' arrows. Press it to join boxes by clicks alone, "
+        "and again to stop");
+    scrH_ = new QScrollBar(Qt::Horizontal, this);
+    scrH_->setObjectName("scrH");
+    scrH_->setAccessibleName("Scroll sideways");
+    scrV_ = new QScrollBar(Qt::Vertical, this);
+    scrV_->setObjectName("scrV");
+    scrV_->setAccessibleName("Scroll up and down");
+    corner_ = new QWidget(this);
+    corner_->setObjectName("pctblank");
+    connect(arrowPanel_, &QToolButton::clicked, this,
+            [this] { Dispatch([this] { pnlArrow_Click(Sheet()); }); });
+    connect(scrH_, &QScrollBar::valueChanged, this, [this](int value) {
+        Dispatch([&] {
+            Sheet().scrH.Value = static_cast<std::int16_t>(value);
+            scrH_Change(Sheet());
+        });
+    });
+    connect(scrV_, &QScrollBar::valueChanged, this, [this](int value) {
+        Dispatch([&] {
+            Sheet().scrV.Value = static_cast<std::int16_t>(value);
+            scrV_Change(Sheet());
+        });
+    });
+}
+
+void WorksheetView::resizeEvent(QResizeEvent*) {
+    Dispatch([this] {
+        Sheet().ScaleWidth = ToUnits(width());
+        Sheet().ScaleHeight = ToUnits(height());
+        main_Resize(Sheet());
+    });
+}
+
+void WorksheetView::Refresh() {
+    const auto title = ToScreen(Sheet().Caption);
+    if (windowTitle() != title) setWindowTitle(title);
+    RefreshBars();
+    surface_->Refresh();
+    RefreshBoxes();
+    RefreshBubble();
+}
+
+void WorksheetView::RefreshBars() {
+    const auto& sheet = Sheet();
+    gauge_->setGeometry(ToPixels(sheet.pnlResource.Place));
+    gauge_->setValue(qRound(sheet.pnlResource.Value));
+    const auto place = ToPixels(sheet.pnlArrow.Place);
+    const QString state =
+        QString("%1 %2").arg(sheet.pnlArrow.BackColor).arg(sheet.pnlArrow.HoldsArrow);
+    if (arrowPanel_->geometry() != place || arrowPanel_->property("shown") != state) {
+        const QSize face = place.size() - QSize(8, 6);
+        arrowPanel_->setGeometry(place);
+        arrowPanel_->setIconSize(face);
+        arrowPanel_->setIcon(ArrowPanelFace(sheet.pnlArrow, face, devicePixelRatioF()));
+        arrowPanel_->setProperty("shown", state);
+    }
+    FollowRecord(scrH_, sheet.scrH);
+    FollowRecord(scrV_, sheet.scrV);
+    corner_->setGeometry(ToPixels(sheet.pctblank));
+    surface_->setGeometry(0, 0, scrV_->x(), scrH_->y());
+}
+
+void WorksheetView::RefreshBoxes() {
+    const auto& controls = Sheet().box;
+    const auto needed = static_cast<std::size_t>(controls.Size());
+    if (boxes_.size() < needed) boxes_.resize(needed, nullptr);
+    for (int i = 1; i < static_cast<int>(boxes_.size()); ++i) {
+        auto*& view = boxes_[static_cast<std::size_t>(i)];
+        if (!controls.Has(i)) {
+            if (view) view->deleteLater();
+            if (view) view->hide();
+            view = nullptr;
+            continue;
+        }
+        if (!view) view = new BoxView(document_, i, surface_);
+        view->Refresh(controls[i]);
+    }
+}
+
+void WorksheetView::RefreshBubble() {
+    const auto& bubble = Sheet().txtboxname;
+    const auto text = ToScreen(bubble.Caption);
+    if (bubble.Visible && (bubble_->text() != text || !bubble_->isVisible())) {
+        bubble_->setText(text);
+        bubble_->adjustSize();
+        bubble_->move(ToPixels(bubble.Left), ToPixels(bubble.Top));
+        bubble_->raise();
+    }
+    if (bubble_->isVisibleTo(surface_) != bubble.Visible) bubble_->setVisible(bubble.Visible);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+#include <vector>
+
+#include "diagram/worksheet.h"
+
+class QLabel;
+class QProgressBar;
+class QScrollBar;
+class QToolButton;
+
+namespace quorvane {
+
+class BoxView;
+class SurfaceView;
+
+/// A worksheet on the screen: the surface with its boxes, and the bars at its edges.
+class WorksheetView : public QWidget {
+public:
+    explicit WorksheetView(int document);
+    int Document() const { return document_; }
+    /// Shows what the record holds.
+    void Refresh();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    Worksheet& Sheet() const { return DocumentWindow(document_); }
+    void MakeBars();
+    void RefreshBars();
+    void RefreshBoxes();
+    void RefreshBubble();
+
+    int document_;
+    SurfaceView* surface_;
+    QProgressBar* gauge_;
+    QToolButton* arrowPanel_;
+    QScrollBar* scrH_;
+    QScrollBar* scrV_;
+    QWidget* corner_;
+    QLabel* bubble_;
+    std::vector<BoxView*> boxes_;  ///< By box number; nullptr where there is none
+};
+
+}  // namespace quorvane

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#include "shell/forms.h"
+
+#include "catalogue/flow_dialogs.h"
+#include "catalogue/function_dialogs.h"
+#include "catalogue/matrix_dialogs.h"
+#include "catalogue/option_lists.h"
+#include "catalogue/plot_box.h"
+#include "diagram/box_info.h"
+#include "diagram/comment_form.h"
+
+namespace quorvane {
+
+const std::vector<Form>& Forms() {
+    static const std::vector<Form> forms = [] {
+        std::vector<Form> all = {
+            frmComment_Table(),    frmForLoop_Table(),        frmFunc_Table(),
+            frmIf_Table(),         frmInfo_Table(),           frmMakeMat_Table(),
+            frmMakeVector_Table(), frmMatlabFunction_Table(), frmPause_Table(),
+            frmPlot_Table(),       frmSplit_Table(),          frmSubs_Table(),
+            frmUserInput_Table(),
+        };
+        for (const auto& list : optionLists) all.push_back(OptionList_Table(list));
+        return all;
+    }();
+    return forms;
+}
+
+const Form* FindForm(std::string_view name) {
+    for (const auto& form : Forms()) {
+        if (form.Name == name) return &form;
+    }
+    return nullptr;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: MIT
+#include "shell/recovery.h"
+
+#include <cstdlib>
+#include <filesystem>
+
+#include "diagram/worksheet.h"
+#include "files/document_file.h"
+#include "platform/file_table.h"
+#include "platform/numbers.h"
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
+
+namespace quorvane {
+
+namespace {
+
+/// Where this user's data of the program lies; "" when the surroundings don't tell.
+std::string DataFolder() {
+    const char* data = std::getenv("XDG_DATA_HOME");
+    if (data && *data) return JoinPath(data, "quorvane");
+    const char* home = std::getenv("HOME");
+    if (home && *home) return JoinPath(JoinPath(JoinPath(home, ".local"), "share"), "quorvane");
+    return "";
+}
+
+/// A name in the folder that no file has yet.
+std::string FreeName(const std::string& folder) {
+    for (int i = 1;; ++i) {
+        auto name = JoinPath(folder, "recovered-" + NumberText(i) + ".qvm");
+        if (!std::filesystem::exists(name)) return name;
+    }
+}
+
+}  // namespace
+
+std::vector<std::string> WriteRecoveryFiles() {
+    std::vector<std::string> files;
+    const auto folder = DataFolder();
+    if (folder.empty()) return files;
+    std::error_code error;
+    std::filesystem::create_directories(folder, error);
+    for (int i = 1; i <= Documents.UpperBound(); ++i) {
+        if (!Documents[i] || !DocumentStates[i].Modified) continue;
+        Attempt([&] {
+            const auto name = FreeName(folder);
+            const int number = FreeFile();
+            OpenForOutput(number, name);
+            Print(number, DocumentText(static_cast<std::int16_t>(i)) + "\r\n");
+            CloseFile(number);
+            files.push_back(name);
+        });
+    }
+    return files;
+}
+
+}  // namespace quorvane

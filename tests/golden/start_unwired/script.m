@@ -1,0 +1,2 @@
+box1=0;disp(1);
+box2=box1
