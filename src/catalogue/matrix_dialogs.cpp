@@ -55,6 +55,7 @@ void frmMakeMat_Load() {
     frmMakeMat = {};
     frmMakeMat.Form = {.Caption = "Create a Matrix", .Loaded = true};
     for (int i = 0; i <= 3; ++i) frmMakeMat.opn[i].Caption = contents[i].Caption;
+    frmMakeMat.opn[0].Value = true;
 }
 
 void frmMakeMat_opn_Click(int Index) { frmMakeMat.txtOpn = NumberText(Index); }
@@ -89,6 +90,7 @@ void CompleteMakeMat(int box) {
 void frmSplit_Load() {
     frmSplit = {};
     frmSplit.Form = {.Caption = "Matrix Split", .Loaded = true};
+    frmSplit.Col.Value = true;
 }
 
 void frmSplit_txtTo_Change() {

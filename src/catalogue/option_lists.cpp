@@ -298,7 +298,12 @@ void frmOptionList_Load(const OptionList& list) {
     frmOptionList.List = &list;
     frmOptionList.Form = {.Caption = std::string(list.Caption), .Loaded = true};
     int row = 0;
-    for (const auto& option : list.Options) frmOptionList.Options[row++].Caption = option.Caption;
+    for (const auto& option : list.Options) {
+        auto& button = frmOptionList.Options[row++];
+        button.Caption = option.Caption;
+        // What OK would take shows as selected.
+        button.Value = option.Index != NoIndex && NumberText(option.Index) == list.FirstIndex;
+    }
     frmOptionList.txtOpn = list.FirstIndex;
     frmOptionList.Field.Text = list.Field.Default;
     frmOptionList.cmdOK.Caption = "OK";

@@ -58,7 +58,8 @@ void SetUpOptionList(const OptionList& list, QWidget* window) {
         if (name.empty()) continue;
         auto* button = new QRadioButton(ToScreen(option.Caption).replace("&", "&&"));
         button->setObjectName(QString::fromStdString(name));
-        if (!fieldPlaced && list.Field.Beside == option.Index) {
+        const bool hasField = option.Index != NoIndex && option.Index == list.Field.Beside;
+        if (hasField) {
             options->addLayout(FieldRow(list.Field, button));
             fieldPlaced = true;
         } else {
