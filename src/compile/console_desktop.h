@@ -29,6 +29,10 @@ struct ConsoleDesktop : Desktop {
     void PopupMenu(std::string_view) override {}
     void ArrangeWindows(int) override {}
     void SetClipboardText(const std::string&) override {}
+    int ClockSeconds() override { return 0; }
+    void PaintNow() override {}
+    void Help(const std::string&, int) override {}
+    void StartProcess(const std::string&) override {}
     void EndProgram() override {}
     void LinkOpen() override {}
     void LinkExecute(const std::string& script) override { WriteSent(script); }

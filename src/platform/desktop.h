@@ -46,6 +46,14 @@ struct Desktop {
     /// Arranges the worksheets: 0 cascade, 1 tile horizontally, 2 the icons of minimised ones.
     virtual void ArrangeWindows(int how) = 0;
     virtual void SetClipboardText(const std::string& text) = 0;
+    /// The seconds of the clock, 0 to 59. Whoever waits by it reads it again and again.
+    virtual int ClockSeconds() = 0;
+    /// Brings the screen up to the records at once, in the middle of a handler.
+    virtual void PaintNow() = 0;
+    /// Hands a command to the help viewer: 3 contents, 4 help on help, 261 search, 2 quit.
+    virtual void Help(const std::string& file, int command) = 0;
+    /// Starts a program that goes on beside this one, minimised; error 53 when it can't be started.
+    virtual void StartProcess(const std::string& path) = 0;
     /// Ends the program once the running handler has returned.
     virtual void EndProgram() = 0;
 

@@ -7,7 +7,10 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
+#include <QProcess>
 #include <QSettings>
+#include <QThread>
+#include <QTime>
 
 #include "platform/runtime_error.h"
 #include "qt/dispatch.h"
@@ -176,6 +179,24 @@ void QtDesktop::ArrangeWindows(int how) { frameView->Arrange(how); }
 
 void QtDesktop::SetClipboardText(const std::string& text) {
     QGuiApplication::clipboard()->setText(ToScreen(text));
+}
+
+int QtDesktop::ClockSeconds() {
+    // Whoever waits by the clock must not keep the windows from being painted.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QThread::msleep(10);
+    return QTime::currentTime().second();
+}
+
+void QtDesktop::PaintNow() {
+    RefreshScreen();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}
+
+void QtDesktop::Help(const std::string&, int) {}
+
+void QtDesktop::StartProcess(const std::string& path) {
+    if (!QProcess::startDetached(ToScreen(path), {})) throw RuntimeError(53);
 }
 
 void QtDesktop::EndProgram() { QCoreApplication::quit(); }

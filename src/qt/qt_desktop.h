@@ -17,6 +17,10 @@ struct QtDesktop : Desktop {
     void PopupMenu(std::string_view menu) override;
     void ArrangeWindows(int how) override;
     void SetClipboardText(const std::string& text) override;
+    int ClockSeconds() override;
+    void PaintNow() override;
+    void Help(const std::string& file, int command) override;
+    void StartProcess(const std::string& path) override;
     void EndProgram() override;
     void LinkOpen() override;
     void LinkExecute(const std::string& script) override;

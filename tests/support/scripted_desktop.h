@@ -29,6 +29,11 @@ struct ScriptedDesktop : Desktop {
     std::vector<int> Arrangements;
     std::vector<std::string> Clipboard;  ///< Every text put there
     bool Ended = false;
+    std::deque<int> Seconds;  ///< What the clock reads; 0 when they run out
+    int Paints = 0;
+    std::vector<std::string> HelpCommands;  ///< File, "|", code
+    std::vector<std::string> Processes;     ///< Started programs
+    bool ProcessesFail = false;
     std::vector<std::string> Sent;  ///< What went to MATLAB
     std::string Reply;              ///< What each request gets
     std::deque<int> LinkFailures;   ///< Error numbers of the next openings of the link; 0 for none
@@ -70,6 +75,15 @@ struct ScriptedDesktop : Desktop {
     void PopupMenu(std::string_view menu) override { MenusPopped.emplace_back(menu); }
     void ArrangeWindows(int how) override { Arrangements.push_back(how); }
     void SetClipboardText(const std::string& text) override { Clipboard.push_back(text); }
+    int ClockSeconds() override { return Seconds.empty() ? 0 : Take(Seconds); }
+    void PaintNow() override { ++Paints; }
+    void Help(const std::string& file, int command) override {
+        HelpCommands.push_back(file + "|" + std::to_string(command));
+    }
+    void StartProcess(const std::string& path) override {
+        if (ProcessesFail) throw RuntimeError(53);
+        Processes.push_back(path);
+    }
     void EndProgram() override { Ended = true; }
     void LinkOpen() override {
         const int failure = LinkFailures.empty() ? 0 : Take(LinkFailures);
