@@ -3,6 +3,7 @@
 
 namespace quorvane {
 
+std::string ProgramDirectory;
 PreferencesForm frmPrefs;
 
 }  // namespace quorvane

@@ -1,14 +1,38 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <string>
+#include <vector>
+
+#include "diagram/worksheet.h"
 #include "platform/controls.h"
 
 namespace quorvane {
 
-/// The preferences dialog. Its controls are the live preferences, which all parts read.
+/// The folder of the settings, help and toolbox files, without a separator at its end; set while
+/// the program starts.
+extern std::string ProgramDirectory;
+
+/// The preferences dialog. It is never unloaded: its controls are the live preferences, which all
+/// parts read.
 struct PreferencesForm {
-    CheckBox chkInput;  ///< Start the generator at every box without arrows into it, too
+    FormState Form = {.Caption = "Prefrences"};
+    ScrollBar sclWidth = {.Value = 1, .Min = 1, .Max = 4};
+    TextBox txtLineWidth = {.Text = "1"};    ///< Pen width of the arrows in every document, 1 to 4
     CheckBox chkShowBubbles = {.Value = 1};  ///< Bubbles name the boxes under the mouse
+    CheckBox chkInput;  ///< Start the generator at every box without arrows into it, too
+    CheckBox chkShowToolbox = {.Value = 1};        ///< The toolbox shows from the start
+    TextBox txtToolbox = {.Text = "default.tlb"};  ///< A file of the program directory
+    Label lbltoolboxsize;                          ///< Columns, "X", rows; "" for 3 columns
+    TextBox txtDrives = {.Text = "abcdef"};        ///< A letter for each drive to scan for M-files
+    Button cmdSave = {.Caption = "Save Prefrences"};
+    Button cmdOK = {.Caption = "OK"};
+    Button cmdCancel = {.Caption = "Cancel"};
+    int DrawWidth = 1;                 ///< Pen width of the sample line, in pixels
+    std::vector<DrawnShape> Surface;   ///< The sample line, at its place in the dialog
+    std::int16_t RememberedWidth = 1;  ///< What Cancel puts back
+    int RememberedBubbles = 1;
 };
 extern PreferencesForm frmPrefs;
 

@@ -66,6 +66,12 @@ struct Bubble {
     bool Visible = false;
 };
 
+/// The panel of the guided tour; a click on it goes a step on.
+struct TourPanel {
+    std::string Caption;
+    bool Visible = false;
+};
+
 /// A document's window: its controls and what is painted on it. The window is called "main".
 struct Worksheet {
     Worksheet();
@@ -87,11 +93,13 @@ struct Worksheet {
     std::vector<DrawnShape> Surface;
     RectangleShape shpCopy;
     Bubble txtboxname;
+    TourPanel pnlTour;
     std::string cmdEventFire;  ///< The key that the toolbox fired at this worksheet
     MenuItem mnuMultipleArrows;
     MenuItem mnuOptionsBubbleShow;
     MenuItem mnuOptionsToolbox;
     MenuItem mnuOptionsCurrentToolbox;
+    MenuItem mnuHelpTour;
     CheckedArray<MenuItem, 0, 4> mnuFileArray;  ///< Recent files; element 0 is the separator
 };
 

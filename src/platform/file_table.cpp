@@ -166,13 +166,16 @@ void OpenForInput(int number, const std::string& path) {
 
 bool EndOfFile(int number) { return !Fill(Opened(number, Use::Input)); }
 
-std::string_view LineInput(int number) {
+namespace {
+
+/// Reads up to one of `ends` and past it, CR LF counting as one.
+std::string_view ReadUpTo(int number, const char* ends) {
     auto& file = Opened(number, Use::Input);
     if (!Fill(file)) throw RuntimeError(62);
     currentLine.clear();
     while (Fill(file)) {
         const std::string_view rest(file.Buffer.data() + file.Next, file.Filled - file.Next);
-        const auto end = rest.find_first_of("\r\n");
+        const auto end = rest.find_first_of(ends);
         const auto part = rest.substr(0, end);
         if (currentLine.size() + part.size() > MaxLineLength) throw RuntimeError(14);
         currentLine += part;
@@ -185,6 +188,12 @@ std::string_view LineInput(int number) {
     }
     return currentLine;
 }
+
+}  // namespace
+
+std::string_view LineInput(int number) { return ReadUpTo(number, "\r\n"); }
+
+std::string_view InputField(int number) { return ReadUpTo(number, "\r\n,"); }
 
 void OpenForOutput(int number, const std::string& path) {
     const auto resolved = Resolved(path);

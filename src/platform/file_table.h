@@ -22,6 +22,9 @@ bool EndOfFile(int number);
 /// The next line without its end; error 62 at the end of the file. The text stays valid until the
 /// next read from any file.
 std::string_view LineInput(int number);
+/// As LineInput, but a comma ends the read, too, and is taken with it. Blanks and quotation marks
+/// are text like any other.
+std::string_view InputField(int number);
 
 /// Opens a file that will replace the one at `path`. What is printed goes to a new file beside it,
 /// which takes its place when it is closed: a full disk or a kill leaves the old file whole.

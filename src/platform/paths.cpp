@@ -3,6 +3,7 @@
 
 #include <filesystem>
 
+#include "platform/numbers.h"
 #include "platform/runtime_error.h"
 
 namespace quorvane {
@@ -27,6 +28,33 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
     path += separator;
     path += name;
     return path;
+}
+
+std::string FindFile(const std::string& path) {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    if (fs::exists(path, error)) return path;
+    const auto name = FileNameOf(path);
+    const auto folder = path.substr(0, path.size() - name.size());
+    const auto wanted = LowerCase(name);
+    std::string best;
+    fs::directory_iterator at(folder.empty() ? "." : folder, error);
+    for (; !error && at != fs::directory_iterator(); at.increment(error)) {
+        const auto found = at->path().filename().string();
+        if (LowerCase(found) == wanted && (best.empty() || found < best)) best = found;
+    }
+    return best.empty() ? path : folder + best;
+}
+
+std::string FindInFolder(std::string_view folder, std::string_view name) {
+    return FindFile(JoinPath(folder, name));
+}
+
+int FileAttributes(const std::string& path) {
+    constexpr int archive = 32;
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(FindFile(path), error)) throw RuntimeError(53);
+    return archive;
 }
 
 std::string CurrentDirectory() {

@@ -13,6 +13,14 @@ std::string_view FolderOf(std::string_view path);
 /// Joins with the separator of this platform.
 std::string JoinPath(std::string_view folder, std::string_view name);
 
+/// The path of an existing file. Where there is none with the very name, one whose name differs in
+/// the case of its letters counts; where there is none at all, `path` comes back as it is.
+std::string FindFile(const std::string& path);
+/// The same for a name in a folder.
+std::string FindInFolder(std::string_view folder, std::string_view name);
+/// 32 for a regular file, found as FindFile does; error 53 for anything else and for none.
+int FileAttributes(const std::string& path);
+
 /// The process's current folder; error 76 when it is gone.
 std::string CurrentDirectory();
 /// Error 76 when there is no such folder.

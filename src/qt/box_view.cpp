@@ -3,6 +3,7 @@
 
 #include <QApplication>
 #include <QDrag>
+#include <QHash>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
@@ -15,6 +16,33 @@
 #include "qt/screen_units.h"
 
 namespace quorvane {
+
+namespace {
+
+QPixmap DrawFace(int cell, int side, bool focused, qreal ratio) {
+    QPixmap face(QSize(side, side) * ratio);
+    face.setDevicePixelRatio(ratio);
+    face.fill(Qt::transparent);
+    QPainter painter(&face);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(
+        QPen(focused ? QColor(0xFF, 0xB3, 0x00) : QColor(0x3A, 0x42, 0x4C), focused ? 2 : 1));
+    painter.setBrush(QColor(0xFB, 0xFB, 0xF8));
+    painter.drawRoundedRect(QRectF(0.5, 0.5, side - 1, side - 1), 4, 4);
+    painter.drawPixmap(QPointF(1.5, 1.5), CellPixmap(cell, side - 3, ratio));
+    return face;
+}
+
+/// A box as it looks on the screen. Faces are drawn once for each cell, state and resolution: a
+/// full worksheet paints hundreds of them at a time.
+QPixmap Face(int cell, int side, bool focused, qreal ratio) {
+    static QHash<QList<int>, QPixmap> drawn;
+    auto& face = drawn[{cell, side, focused, qRound(ratio * 100)}];
+    if (face.isNull()) face = DrawFace(cell, side, focused, ratio);
+    return face;
+}
+
+}  // namespace
 
 BoxView::BoxView(int document, int number, QWidget* surface)
     : QWidget(surface), document_(document), number_(number) {
@@ -41,23 +69,19 @@ void BoxView::Refresh(const BoxControl& control) {
         dragAutomatic_ = control.DragAutomatic;
         update();
     }
+    const auto& type = BoxOrFree(number_).BoxType;
+    if (accessibleName().isEmpty() || type_ != type) {
+        type_ = type;
+        setAccessibleName(ToScreen(BoxName(number_) + " " + type));
+    }
     if (isVisibleTo(parentWidget()) != control.Visible) {
-        const auto& box = BoxOrFree(number_);
-        setAccessibleName(ToScreen(BoxName(number_) + " " + box.BoxType));
         setVisible(control.Visible);
         if (control.Visible) raise();
     }
 }
 
 void BoxView::paintEvent(QPaintEvent*) {
-    QPainter painter(this);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(
-        QPen(hasFocus() ? QColor(0xFF, 0xB3, 0x00) : QColor(0x3A, 0x42, 0x4C), hasFocus() ? 2 : 1));
-    painter.setBrush(QColor(0xFB, 0xFB, 0xF8));
-    painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
-    const auto face = CellPixmap(picture_, width() - 3, devicePixelRatioF());
-    painter.drawPixmap(QPointF(1.5, 1.5), face);
+    QPainter(this).drawPixmap(0, 0, Face(picture_, width(), hasFocus(), devicePixelRatioF()));
 }
 
 void BoxView::mousePressEvent(QMouseEvent* event) {

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
 
 #include "diagram/worksheet.h"
 
@@ -31,6 +32,7 @@ private:
 
     int document_;
     int number_;
+    std::string type_;  ///< The box type that the accessible name tells
     int picture_ = -1;
     int pointer_ = -1;
     bool dragAutomatic_ = false;

@@ -4,19 +4,26 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFontDatabase>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollBar>
+#include <QTimer>
 
+#include "diagram/preferences.h"
 #include "qt/dispatch.h"
 #include "qt/form_layouts.h"
 #include "qt/icon_strip.h"
 #include "qt/option_list_layout.h"
 #include "qt/screen_units.h"
+#include "qt/shape_painter.h"
+#include "shell/help.h"
 
 namespace quorvane {
 
@@ -68,7 +75,16 @@ void Show(const OptionButton& record, QWidget* control) {
     control->setEnabled(record.Enabled);
 }
 
+/// A list shows the text of the record in its first row, and what can be chosen below it.
+void ShowList(const ComboBox& record, QListWidget* list) {
+    list->clear();
+    list->addItem(ToScreen(record.Text));
+    list->item(0)->setFlags(Qt::ItemIsEnabled);
+    for (const auto& item : record.List) list->addItem(ToScreen(item));
+}
+
 void Show(const ComboBox& record, QWidget* control) {
+    if (auto* list = qobject_cast<QListWidget*>(control)) ShowList(record, list);
     auto* combo = qobject_cast<QComboBox*>(control);
     if (!combo) return;
     QStringList items;
@@ -83,6 +99,8 @@ void Show(const ComboBox& record, QWidget* control) {
     combo->setCurrentIndex(combo->findText(text));
     if (combo->isEditable() && combo->currentText() != text) combo->setEditText(text);
     combo->setEnabled(record.Enabled);
+    // Where there is nothing to choose there is nothing to show, as with drives on this platform.
+    combo->setVisible(combo->isEditable() || !record.List.empty());
 }
 
 void Show(const PictureBox& record, QWidget* control) {
@@ -122,6 +140,9 @@ void Take(OptionButton& record, QWidget* control) {
 
 void Take(ComboBox& record, QWidget* control) {
     if (auto* combo = qobject_cast<QComboBox*>(control)) record.Text = ToCore(combo->currentText());
+    const auto chosen = control->property("chosen");
+    if (chosen.isValid()) record.Text = ToCore(chosen.toString());
+    control->setProperty("chosen", {});
 }
 
 void Take(ScrollBar& record, QWidget* control) {
@@ -169,6 +190,7 @@ FormView::FormView(const Form& form, QWidget* parent) : QDialog(parent), form_(f
     for (const char* name : {"cmdOK", "cmd"}) {
         if (auto* ok = findChild<QPushButton*>(name)) ok->setDefault(true);
     }
+    if (objectName() == "frmAbout") RunAboutTimer();
     openForms.append(this);
 }
 
@@ -187,10 +209,25 @@ void FormView::Connect(const ControlRow& row, QWidget* control) {
         connect(edit, &QPlainTextEdit::textChanged, this, run);
     } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
         connect(combo, &QComboBox::currentTextChanged, this, run);
+    } else if (auto* list = qobject_cast<QListWidget*>(control)) {
+        connect(list, &QListWidget::itemActivated, this, [list, run](QListWidgetItem* item) {
+            list->setProperty("chosen", item->text());
+            run();
+        });
     } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
         connect(button, &QAbstractButton::clicked, this, run);
     } else if (auto* slider = qobject_cast<QAbstractSlider*>(control)) {
         connect(slider, &QAbstractSlider::valueChanged, this, run);
+    }
+}
+
+/// The line of the About dialog moves on while the dialog shows.
+void FormView::RunAboutTimer() {
+    auto* timer = new QTimer(this);
+    connect(timer, &QTimer::timeout, this, [] { Dispatch(frmAbout_Timer1_Timer); });
+    timer->start(frmAbout.Timer1);
+    if (auto* line = findChild<QLabel*>("lblName")) {
+        line->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     }
 }
 
@@ -206,12 +243,21 @@ void FormView::Refresh() {
         const QSignalBlocker quiet(control);
         std::visit([&](auto* record) { Show(*record, control); }, row.Record);
     }
+    if (objectName() == "frmPrefs") update();
 }
 
 /// Escape presses Cancel where a form has it, and does nothing elsewhere: no box dialog can be left
 /// without an answer.
 void FormView::reject() {
     if (auto* cancel = findChild<QPushButton*>("cmdCancel")) cancel->click();
+}
+
+/// The sample line of the preferences is the only thing that a form draws by itself.
+void FormView::paintEvent(QPaintEvent* event) {
+    QDialog::paintEvent(event);
+    if (objectName() != "frmPrefs") return;
+    QPainter painter(this);
+    PaintShapes(painter, frmPrefs.Surface, frmPrefs.DrawWidth);
 }
 
 void FormView::showEvent(QShowEvent* event) {

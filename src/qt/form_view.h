@@ -14,14 +14,16 @@ public:
     FormView(const Form& form, QWidget* parent);
     ~FormView() override;
     /// Shows the records; a form that has hidden itself ends.
-    void Refresh();
+    virtual void Refresh();
 
 protected:
     void reject() override;
+    void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void Connect(const ControlRow& row, QWidget* control);
+    void RunAboutTimer();
 
     const Form& form_;
 };

@@ -12,8 +12,11 @@
 #include "files/close_document.h"
 #include "qt/dispatch.h"
 #include "qt/form_view.h"
+#include "qt/splash_view.h"
+#include "qt/toolbox_view.h"
 #include "qt/worksheet_view.h"
 #include "shell/frame.h"
+#include "toolbox/toolbox.h"
 
 namespace quorvane {
 
@@ -56,12 +59,22 @@ FrameView::FrameView() {
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(area_);
+    toolbox_ = new ToolboxView(this);
+    splash_ = std::make_unique<SplashView>();
     frameMenus_ = MakeFrameMenus(this);
     documentMenus_ = MakeDocumentMenus(this);
     connect(area_, &QMdiArea::subWindowActivated, this, &FrameView::Activated);
     RefreshScreen = [this] { Refresh(); };
     resize(1000, 720);
     Refresh();
+}
+
+/// The area tells of its windows' end when this is no more.
+FrameView::~FrameView() {
+    disconnect(area_, nullptr, this, nullptr);
+    RefreshScreen = [] {};
+    activeDocument = 0;
+    frameView = nullptr;
 }
 
 WorksheetView* FrameView::ViewOf(int document) const {
@@ -99,6 +112,8 @@ void FrameView::Refresh() {
         if (auto* view = ViewOf(i)) view->Refresh();
     }
     ShowMenus();
+    splash_->Refresh();
+    toolbox_->Refresh();
     RefreshForms();
 }
 
@@ -106,6 +121,7 @@ void FrameView::Activated(QMdiSubWindow* window) {
     // The area reports "none" also while the whole program is in the background.
     if (!window && area_->currentSubWindow()) return;
     activeDocument = window ? static_cast<WorksheetView*>(window->widget())->Document() : 0;
+    if (activeDocument > 0 && Documents[activeDocument]) main_Activate(*Documents[activeDocument]);
     ShowMenus();
 }
 

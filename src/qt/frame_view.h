@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <memory>
 
 #include "qt/menu_bar.h"
 
@@ -11,12 +12,15 @@ class QMdiSubWindow;
 
 namespace quorvane {
 
+class SplashView;
+class ToolboxView;
 class WorksheetView;
 
 /// The frame: one window that holds the worksheets, with the menu bar of the active one.
 class FrameView : public QMainWindow {
 public:
     FrameView();
+    ~FrameView() override;
     /// Shows the records on every window: worksheets come and go as the documents do.
     void Refresh();
     void Arrange(int how);
@@ -36,6 +40,8 @@ private:
     void ListWindows();
 
     QMdiArea* area_;
+    ToolboxView* toolbox_;
+    std::unique_ptr<SplashView> splash_;
     MenuSet frameMenus_;
     MenuSet documentMenus_;
     bool showsDocumentMenus_ = false;

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
+#include <QIcon>
 #include <cstdio>
 #include <cstdlib>
 
@@ -8,6 +9,7 @@
 #include "qt/qt_desktop.h"
 #include "quorvane/version.h"
 #include "shell/application.h"
+#include "shell/start_up.h"
 
 namespace {
 
@@ -33,10 +35,12 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName("Quorvane");
     QApplication::setApplicationVersion(QUORVANE_VERSION);
     QGuiApplication::setDesktopFileName("quorvane");
+    QApplication::setWindowIcon(QIcon(":/quorvane.svg"));
     quorvane::ResetApplication();
     quorvane::QtDesktop desktop;
     quorvane::desktop = &desktop;
     quorvane::FrameView frame;
+    quorvane::Dispatch(quorvane::StartProgram);
     frame.show();
     const int code = QApplication::exec();
     quorvane::RefreshScreen = [] {};

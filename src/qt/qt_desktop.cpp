@@ -13,9 +13,11 @@
 #include <QTime>
 
 #include "platform/runtime_error.h"
+#include "qt/config_toolbox_view.h"
 #include "qt/dispatch.h"
 #include "qt/form_view.h"
 #include "qt/frame_view.h"
+#include "qt/help_window.h"
 #include "qt/matrix_dialog.h"
 #include "qt/page_view_dialog.h"
 #include "qt/screen_units.h"
@@ -168,9 +170,14 @@ void QtDesktop::ShowModal(std::string_view name) {
     const auto* form = FindForm(name);
     if (!form) return;
     form->State->Visible = true;
-    FormView view(*form, Parent());
-    view.Refresh();
-    view.exec();
+    std::unique_ptr<FormView> view;
+    if (name == "frmConfigToolbox") {
+        view = std::make_unique<ConfigToolboxView>(*form, Parent());
+    } else {
+        view = std::make_unique<FormView>(*form, Parent());
+    }
+    view->Refresh();
+    view->exec();
 }
 
 void QtDesktop::PopupMenu(std::string_view menu) { frameView->PopupMenu(ToScreen(menu)); }
@@ -193,13 +200,14 @@ void QtDesktop::PaintNow() {
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
-void QtDesktop::Help(const std::string&, int) {}
+void QtDesktop::Help(const std::string& file, int command) { RunHelpCommand(file, command); }
 
 void QtDesktop::StartProcess(const std::string& path) {
     if (!QProcess::startDetached(ToScreen(path), {})) throw RuntimeError(53);
 }
 
-void QtDesktop::EndProgram() { QCoreApplication::quit(); }
+// Not quit(): that would ask the windows once more, and the frame closes by its own rules.
+void QtDesktop::EndProgram() { QCoreApplication::exit(0); }
 
 void QtDesktop::LinkOpen() { throw RuntimeError(NoApplicationAnswered); }
 void QtDesktop::LinkExecute(const std::string&) { throw RuntimeError(NoApplicationAnswered); }

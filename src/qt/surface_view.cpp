@@ -55,7 +55,7 @@ void SurfaceView::Refresh() {
                     SameShape)) {
         drawn_ = sheet.Surface;
         drawnWidth_ = sheet.DrawWidth;
-        layer_ = QPixmap();
+        layerIsOld_ = true;
         update();
     }
     const auto band = BandOf(sheet.shpCopy);
@@ -77,16 +77,19 @@ void SurfaceView::UpdateBand(const QRect& band) {
 }
 
 void SurfaceView::DrawLayer() {
-    layer_ = QPixmap(size() * devicePixelRatioF());
+    const QSize needed = size() * devicePixelRatioF();
+    if (layer_.size() != needed) layer_ = QPixmap(needed);
     layer_.setDevicePixelRatio(devicePixelRatioF());
+    layerIsOld_ = false;
     layer_.fill(sheetColor);
     QPainter painter(&layer_);
     PaintShapes(painter, drawn_, drawnWidth_);
 }
 
 void SurfaceView::paintEvent(QPaintEvent* event) {
-    const QSize needed = size() * devicePixelRatioF();
-    if (layer_.size() != needed || layer_.devicePixelRatio() != devicePixelRatioF()) DrawLayer();
+    const bool fits = layer_.size() == size() * devicePixelRatioF() &&
+                      layer_.devicePixelRatio() == devicePixelRatioF();
+    if (layerIsOld_ || !fits) DrawLayer();
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawPixmap(0, 0, layer_);

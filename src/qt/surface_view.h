@@ -39,6 +39,7 @@ private:
     std::vector<DrawnShape> drawn_;  ///< What the picture shows
     int drawnWidth_ = 0;             ///< With this pen
     QPixmap layer_;
+    bool layerIsOld_ = false;    ///< It shows other shapes than drawn_
     QRect band_;                 ///< The rubber band as painted, empty when hidden
     bool keyboardBand_ = false;  ///< Arrow keys with Shift are drawing a band
 };

@@ -16,6 +16,7 @@
 #include "qt/screen_units.h"
 #include "qt/shape_painter.h"
 #include "qt/surface_view.h"
+#include "qt/tour_view.h"
 
 namespace quorvane {
 
@@ -55,6 +56,7 @@ WorksheetView::WorksheetView(int document) : document_(document) {
     bubble_->setStyleSheet(
         "background: #fffbe0; color: #202020; border: 1px solid #807840; padding: 1px 4px;");
     bubble_->hide();
+    tour_ = new TourView(document, surface_);
     MakeBars();
     setFocusProxy(surface_);
     setMinimumSize(220, 120);
@@ -111,6 +113,7 @@ void WorksheetView::Refresh() {
     surface_->Refresh();
     RefreshBoxes();
     RefreshBubble();
+    tour_->Refresh(Sheet().pnlTour);
 }
 
 void WorksheetView::RefreshBars() {

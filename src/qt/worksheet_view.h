@@ -15,6 +15,7 @@ namespace quorvane {
 
 class BoxView;
 class SurfaceView;
+class TourView;
 
 /// A worksheet on the screen: the surface with its boxes, and the bars at its edges.
 class WorksheetView : public QWidget {
@@ -42,6 +43,7 @@ private:
     QScrollBar* scrV_;
     QWidget* corner_;
     QLabel* bubble_;
+    TourView* tour_;
     std::vector<BoxView*> boxes_;  ///< By box number; nullptr where there is none
 };
 

@@ -15,7 +15,13 @@
 #include "generator/compile_document.h"
 #include "generator/front.h"
 #include "generator/output_targets.h"
+#include "matlab_link/start_matlab.h"
 #include "platform/file_table.h"
+#include "shell/help.h"
+#include "shell/start_up.h"
+#include "shell/tour.h"
+#include "toolbox/toolbox.h"
+#include "toolbox/toolbox_config.h"
 
 namespace quorvane {
 
@@ -30,11 +36,19 @@ void ResetApplication() {
     lastRunEnd = RunEnd::None;
     lastLoad = {};
     icons = {};
+    ProgramDirectory.clear();
+    TourStep = 0;
+    frmAbout = {};
     frmComment = {};
+    frmConfigToolbox = {};
+    frmDirectory = {};
+    frmDisclaimer = {};
     frmInfo = {};
     frmMatrix = {};
     frmPageView = {};
+    frmPictures = {};
     frmPrefs = {};
+    frmSplash = {};
     frmTextResults = {};
 }
 

@@ -8,6 +8,10 @@
 #include "catalogue/plot_box.h"
 #include "diagram/box_info.h"
 #include "diagram/comment_form.h"
+#include "matlab_link/start_matlab.h"
+#include "shell/help.h"
+#include "shell/preferences_command.h"
+#include "toolbox/toolbox_config.h"
 
 namespace quorvane {
 
@@ -18,7 +22,8 @@ const std::vector<Form>& Forms() {
             frmIf_Table(),         frmInfo_Table(),           frmMakeMat_Table(),
             frmMakeVector_Table(), frmMatlabFunction_Table(), frmPause_Table(),
             frmPlot_Table(),       frmSplit_Table(),          frmSubs_Table(),
-            frmUserInput_Table(),
+            frmUserInput_Table(),  frmAbout_Table(),          frmDisclaimer_Table(),
+            frmPrefs_Table(),      frmDirectory_Table(),      frmConfigToolbox_Table(),
         };
         for (const auto& list : optionLists) all.push_back(OptionList_Table(list));
         return all;

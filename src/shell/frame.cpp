@@ -4,20 +4,37 @@
 #include "diagram/box_table.h"
 #include "files/close_document.h"
 #include "files/document_file.h"
+#include "generator/output_targets.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
+#include "toolbox/toolbox.h"
 
 namespace quorvane {
+
+namespace {
+
+void QuitHelp() {
+    constexpr int quit = 2;
+    desktop->Help("", quit);
+}
+
+}  // namespace
 
 void mnuFileNew_Click() { NewDocument(); }
 void mnuFileOpen_Click() { LoadDocument(""); }
 
 void mnuFileExit_Click() {
     EditMode = 0;
+    QuitHelp();
+    UnloadToolbox();
+    frmTextResults = {};
     UnloadFrame();
 }
 
-void mnuExit_Click() { UnloadFrame(); }
+void mnuExit_Click() {
+    QuitHelp();
+    UnloadFrame();
+}
 
 void mnuWindowsArrange_Click() { desktop->ArrangeWindows(2); }
 void mnuWindowsCascade_Click() { desktop->ArrangeWindows(0); }
@@ -30,6 +47,7 @@ bool UnloadFrame() {
     for (int i = 1; i <= Documents.UpperBound(); ++i) {
         if (Documents[i] && !CloseDocument(i)) return false;
     }
+    UnloadToolbox();
     desktop->EndProgram();
     return true;
 }

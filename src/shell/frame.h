@@ -9,8 +9,9 @@ namespace quorvane {
 
 void mnuFileNew_Click();
 void mnuFileOpen_Click();
-/// Ends the program from the frame's menu, or from a worksheet's; nothing ends when the closing of
-/// a worksheet is refused.
+/// End the program from the frame's menu and from a worksheet's, with the help viewer. The program
+/// stays when the closing of a worksheet is refused; the frame's command has then already taken
+/// the toolbox and the results of MATLAB down.
 void mnuFileExit_Click();
 void mnuExit_Click();
 void mnuWindowsArrange_Click();
@@ -20,8 +21,8 @@ void mnuWindowsTile_Click();
 void mnuFileSaveFile_Click(Worksheet& sheet);
 void mnuFileSave_Click(Worksheet& sheet);
 
-/// Closes every worksheet by its own rules and ends the program. False when one refused to close:
-/// the frame stays, with the worksheets that are still open.
+/// Closes every worksheet by its own rules, then the toolbox, and ends the program. False when a
+/// worksheet refused to close: the frame stays, with what is still open.
 bool UnloadFrame();
 
 }  // namespace quorvane

@@ -12,6 +12,12 @@
 #include "files/document_file.h"
 #include "generator/output_targets.h"
 #include "shell/frame.h"
+#include "matlab_link/start_matlab.h"
+#include "shell/help.h"
+#include "shell/preferences_command.h"
+#include "shell/tour.h"
+#include "toolbox/toolbox.h"
+#include "toolbox/toolbox_config.h"
 
 namespace quorvane {
 
@@ -47,7 +53,7 @@ const std::vector<DocumentMenuRow> documentMenu = {
     {1, "mnuFileSaveFile", -1, "&Save File", "Ctrl+S", mnuFileSaveFile_Click},
     {1, "mnuFileSave", -1, "Save &As ...", "", mnuFileSave_Click},
     {1, "mnus9", -1, "-", ""},
-    {1, "mnuFileStartMatlab", -1, "Start Matlab", ""},
+    {1, "mnuFileStartMatlab", -1, "Start Matlab", "", OfFrame<mnuFileStartMatlab_Click>},
     {1, "mnus10", -1, "-", ""},
     {1, "mnuExit", -1, "&Exit", "", OfFrame<mnuExit_Click>},
     {1, "mnuFileArray", 0, "-", ""},
@@ -157,25 +163,25 @@ const std::vector<DocumentMenuRow> documentMenu = {
     {0, "mnuView", -1, "&View", ""},
     {1, "mnuPageView", -1, "&Page View", "", mnuPageView_Click},
     {0, "mnuOptions", -1, "&Options", ""},
-    {1, "mnuOptionsToolbox", -1, "Show &Toolbox", ""},
-    {1, "mnuOptionsConfigureToolbox", -1, "&Configure toolbox ...", ""},
-    {1, "mnuOptionsCurrentToolbox", -1, "C&urrent Toolbox:default.tlb", ""},
+    {1, "mnuOptionsToolbox", -1, "Show &Toolbox", "", mnuOptionsToolbox_Click},
+    {1, "mnuOptionsConfigureToolbox", -1, "&Configure toolbox ...", "", mnuOptionsConfigureToolbox_Click},
+    {1, "mnuOptionsCurrentToolbox", -1, "C&urrent Toolbox:default.tlb", "", mnuOptionsCurrentToolbox_Click},
     {1, "mnus11", -1, "-", ""},
     {1, "mnuOptionsBubbleShow", -1, "&Show Identification Bubble", "", mnuOptionsBubbleShow_Click},
-    {1, "mnuOptionsPrefs", -1, "&Prefrences ...", ""},
+    {1, "mnuOptionsPrefs", -1, "&Prefrences ...", "", mnuOptionsPrefs_Click},
     {0, "mnuWindows", -1, "&Windows", ""},
     {1, "mnuWindowsCascade", -1, "&Cascade", "", OfFrame<mnuWindowsCascade_Click>},
     {1, "mnuWindowsTile", -1, "&Tile", "", OfFrame<mnuWindowsTile_Click>},
     {1, "mnuWindowsArrange", -1, "&Arrange", "", OfFrame<mnuWindowsArrange_Click>},
     {0, "mnuHelp", -1, "&Help", ""},
-    {1, "mnuHelpContents", -1, "&Contents", ""},
-    {1, "mnuHelpSearch", -1, "&Search For Help On ...", ""},
-    {1, "mnuHelpHowTo", -1, "&How to Use Help", ""},
+    {1, "mnuHelpContents", -1, "&Contents", "", OfFrame<mnuHelpContents_Click>},
+    {1, "mnuHelpSearch", -1, "&Search For Help On ...", "", mnuHelpSearch_Click},
+    {1, "mnuHelpHowTo", -1, "&How to Use Help", "", OfFrame<mnuHelpHowTo_Click>},
     {1, "mnus19", -1, "-", ""},
-    {1, "mnuHelpTour", -1, "&Guided Tour", ""},
+    {1, "mnuHelpTour", -1, "&Guided Tour", "", mnuHelpTour_Click},
     {1, "mnus20", -1, "-", ""},
-    {1, "mnuHelpAbout", -1, "&About...", ""},
-    {1, "mnuHelpDisclaimer", -1, "&Disclaimer...", ""},
+    {1, "mnuHelpAbout", -1, "&About...", "", OfFrame<mnuHelpAbout_Click>},
+    {1, "mnuHelpDisclaimer", -1, "&Disclaimer...", "", OfFrame<mnuHelpDisclaimer_Click>},
 };
 
 const std::vector<FrameMenuRow> frameMenu = {
@@ -190,15 +196,15 @@ const std::vector<FrameMenuRow> frameMenu = {
     {1, "mnuFileArray", 3, "", "", mnuFileArray_Click<3>},
     {1, "mnuFileArray", 4, "", "", mnuFileArray_Click<4>},
     {0, "mnuFileOptions", -1, "&Options", ""},
-    {1, "mnuOptionsToolbox", -1, "Show Toolbox", ""},
-    {1, "mnuOptionsCurrentToolbox", -1, "Current Toolbox: default.tlb", ""},
+    {1, "mnuOptionsToolbox", -1, "Show Toolbox", "", mnuOptionsToolbox_Click},
+    {1, "mnuOptionsCurrentToolbox", -1, "Current Toolbox: default.tlb", "", mnuOptionsCurrentToolbox_Click},
     {0, "mnuHelp", -1, "&Help", ""},
-    {1, "mnuHelpContents", -1, "&Contents", ""},
-    {1, "mnuHelpSearch", -1, "&Search For Help On ...", ""},
-    {1, "mnuHelpHowTo", -1, "&How to Use Help", ""},
+    {1, "mnuHelpContents", -1, "&Contents", "", mnuHelpContents_Click},
+    {1, "mnuHelpSearch", -1, "&Search For Help On ...", "", mnuHelpSearch_Click},
+    {1, "mnuHelpHowTo", -1, "&How to Use Help", "", mnuHelpHowTo_Click},
     {1, "mnus1", -1, "-", ""},
-    {1, "mnuHelpAbout", -1, "About Quorvane ...", ""},
-    {1, "mnuHelpDisclaimer", -1, "&Disclaimer...", ""},
+    {1, "mnuHelpAbout", -1, "About Quorvane ...", "", mnuHelpAbout_Click},
+    {1, "mnuHelpDisclaimer", -1, "&Disclaimer...", "", mnuHelpDisclaimer_Click},
 };
 // clang-format on
 
@@ -225,6 +231,7 @@ const MenuItem* MenuRecord(const Worksheet& sheet, std::string_view control, int
     if (control == "mnuFileArray") return &sheet.mnuFileArray[index];
     if (control == "mnuMultipleArrows") return &sheet.mnuMultipleArrows;
     if (control == "mnuOptionsBubbleShow") return &sheet.mnuOptionsBubbleShow;
+    if (control == "mnuHelpTour") return &sheet.mnuHelpTour;
     if (control == "mnuOptionsToolbox") return &sheet.mnuOptionsToolbox;
     if (control == "mnuOptionsCurrentToolbox") return &sheet.mnuOptionsCurrentToolbox;
     return nullptr;

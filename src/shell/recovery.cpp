@@ -28,7 +28,8 @@ std::string DataFolder() {
 std::string FreeName(const std::string& folder) {
     for (int i = 1;; ++i) {
         auto name = JoinPath(folder, "recovered-" + NumberText(i) + ".qvm");
-        if (!std::filesystem::exists(name)) return name;
+        std::error_code error;
+        if (!std::filesystem::exists(name, error)) return name;
     }
 }
 
@@ -44,9 +45,11 @@ std::vector<std::string> WriteRecoveryFiles() {
         if (!Documents[i] || !DocumentStates[i].Modified) continue;
         Attempt([&] {
             const auto name = FreeName(folder);
+            const auto text = DocumentText(static_cast<std::int16_t>(i)) + "\r\n";
             const int number = FreeFile();
             OpenForOutput(number, name);
-            Print(number, DocumentText(static_cast<std::int16_t>(i)) + "\r\n");
+            // Closed also where the disk is full: what was written of the file then goes away.
+            Attempt([&] { Print(number, text); });
             CloseFile(number);
             files.push_back(name);
         });

@@ -1,16 +1,20 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "files/settings.h"
 #include "generator/compile_document.h"
 #include "generator/front.h"
+#include "platform/raised_error.h"
 #include "support/diagram_fixture.h"
+#include "support/table_file.h"
 
 namespace quorvane::testing {
+
+using Texts = std::vector<std::string>;
 
 /// A script as a test writes it, with "\n" for each line end.
 inline std::string Crlf(std::string_view lines) {
@@ -19,15 +23,19 @@ inline std::string Crlf(std::string_view lines) {
     return script;
 }
 
-/// The number of the run-time error that the action ends with, 0 for none.
-template <class Action>
-int ErrorOf(Action&& action) {
-    try {
-        action();
-    } catch (const RuntimeError& error) {
-        return error.Number;
+inline std::string Joined(const Texts& parts, const std::string& separator) {
+    std::string line;
+    for (const auto& part : parts) line += (&part == &parts[0] ? "" : separator) + part;
+    return line;
+}
+
+/// Numbers parted by blanks.
+inline std::vector<int> Numbers(const std::string& line) {
+    std::vector<int> numbers;
+    for (const auto& part : Split(line, ' ')) {
+        if (!part.empty()) numbers.push_back(std::stoi(part));
     }
-    return 0;
+    return numbers;
 }
 
 inline std::string StallText(std::string_view boxAndType) {
@@ -44,17 +52,67 @@ protected:
         screen = ScriptedDesktop();
         NewDocument();
     }
-    std::string Compile(std::int16_t mode = 1) { return CompileDocument(mode, "1"); }
+    /// Prepares the answers with these first letters.
+    void Prepare(const std::string& answers) {
+        using enum Answer;
+        const std::map<char, Answer> known = {
+            {'A', Abort}, {'R', Retry}, {'I', Ignore}, {'Y', Yes}, {'N', No}};
+        for (const char answer : answers) screen.MessageAnswers.push_back(known.at(answer));
+    }
+    std::string Compile(int mode = 1) {
+        return CompileDocument(static_cast<std::int16_t>(mode), "1");
+    }
     /// The texts of all messages so far.
-    std::vector<std::string> Told() const {
-        std::vector<std::string> texts;
+    Texts Told() const {
+        Texts texts;
         for (const auto& message : screen.Messages) texts.push_back(message.Text);
         return texts;
     }
-    static void ExpectNoMarks() {
+    /// What each way out of a run leaves behind.
+    static void ExpectAtRest(RunEnd end) {
+        EXPECT_EQ(lastRunEnd, end);
+        EXPECT_EQ(DocumentWindow(1).MousePointer, PointerDefault);
         for (int i = 0; i < NextBox; ++i) EXPECT_EQ(Boxes[i].BoxMark, "") << "box" << i;
     }
-    using Texts = std::vector<std::string>;
+
+    /// Compiles each diagram of a table twice, to text and where its row says so to MATLAB.
+    void CheckDiagrams(const char* table) {
+        const auto rows = ReadTable(table);
+        for (auto row = rows.begin(); row != rows.end();) {
+            const auto& expected = *row++;
+            SCOPED_TRACE(expected.back() + " " + expected[0]);
+            Restart();
+            for (; row != rows.end() && row->front().empty(); ++row) {
+                Draw({{(*row)[1], Crlf((*row)[2]), Numbers((*row)[3]), Numbers((*row)[4])}});
+            }
+            for (const int mode : {1, 1, 0, 0}) {
+                if (mode == 1 || !expected[5].empty()) CheckRun(mode, expected);
+            }
+        }
+    }
+
+private:
+    void CheckRun(int mode, const Texts& row) {
+        screen.Messages.clear();
+        screen.Sent.clear();
+        Prepare(row[1]);
+        std::string script;
+        const int error = RaisedError([&] { script = Compile(mode); });
+        auto expected = Split(row[2], '|');
+        const auto end = error != 0                    ? RunEnd::None
+                         : expected.back() == "Done !" ? RunEnd::Done
+                                                       : RunEnd::Aborted;
+        for (auto& text : expected) text = text.starts_with("box") ? StallText(text) : text;
+        auto told = Told();
+        if (error != 0) told.push_back("error " + std::to_string(error));
+        EXPECT_EQ(told, expected);
+        EXPECT_EQ(script, mode == 1 ? Crlf(row[4]) : "");
+        EXPECT_EQ(Joined(screen.Sent, "--"), mode == 1 ? "" : Crlf(row[5]));
+        EXPECT_EQ(nestingDepth, std::atoi(row[3].c_str()));
+        EXPECT_EQ(EditMode, end == RunEnd::Done ? 1 : 0);
+        EXPECT_TRUE(screen.MessageAnswers.empty());
+        ExpectAtRest(end);
+    }
 };
 
 }  // namespace quorvane::testing

@@ -1,67 +1,39 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/matrix_input.h"
+#include "files/settings.h"
 #include "generator/generator_fixture.h"
 
 namespace quorvane::testing {
 
-class WalkTest : public GeneratorTest {
-protected:
-    /// A box that a Pickup and a box that is never done feed: each visit writes one more Pickup
-    /// line.
-    void DrawCountedStall() {
-        Draw({{"Constant Input", "1", {}, {2}}, {"+", "", {3, 4}}, {"Pickup", "x"}, {"Sin"}});
-    }
-    static std::string Lines(int count, const std::string& line) {
-        std::string lines;
-        for (int i = 0; i < count; ++i) lines += line;
-        return Crlf(lines);
-    }
-};
+using WalkTest = GeneratorTest;
+using Slots = std::vector<std::int16_t>;
 
-TEST_F(WalkTest, AChainOfBoxes) {
-    Draw({{"Constant Input", "3", {}, {2}}, {"Sin", "", {1}, {3}}, {"Screen Output", "", {2}}});
-    EXPECT_EQ(Compile(), Crlf("box1=3;\nbox2=sin(box1);\nbox3=box2\n"));
-    ASSERT_EQ(screen.Messages.size(), 1U);
-    EXPECT_EQ(screen.Messages[0].Text, "Done !");
-    EXPECT_EQ(screen.Messages[0].Picture, Icon::Information);
-    EXPECT_EQ(screen.Messages[0].Choice, Buttons::Ok);
-    EXPECT_EQ(screen.Messages[0].Title, "Quorvane");
-    EXPECT_EQ(lastRunEnd, RunEnd::Done);
-    EXPECT_EQ(EditMode, 1);
-    ExpectNoMarks();
-}
+static Slots FrontSlots() { return {Front.Data(), Front.Data() + Front.UpperBound() + 1}; }
+
+TEST_F(WalkTest, Diagrams) { CheckDiagrams("generator/walk.tsv"); }
+
+TEST_F(WalkTest, ControlFlow) { CheckDiagrams("generator/control_flow.tsv"); }
 
 TEST_F(WalkTest, StartBoxes) {
-    struct Case {
-        int chkInput;
-        const char* Expected;
-    };
-    for (const auto& row : {Case{0, "box6=6;\n"}, Case{1, "box6=6;\nbox2=2;\nbox1=sin(box0);\n"}}) {
-        Restart();
-        frmPrefs.chkInput.Value = row.chkInput;
-        Draw({{"Sin", "", {0, 0, 0}},
-              {"Constant Input", "2", {0, 0, 0}},
-              {"Constant Input", "3", {-1, -1, 0}},
-              {"Constant Input", "4", {5, 0, 0}},
-              {"Sin", "", {0, 0, -1}},
-              {"Constant Input", "6"},
-              {"Constant Input2", "7"}});
-        Draw({{"Constant Input", "8"}, {"Cos", "", {0, 0, 0}}}, 2);
-        EXPECT_EQ(Compile(), Crlf(row.Expected));
-    }
-}
-
-TEST_F(WalkTest, WithoutAStartBoxTheRunIsRefused) {
-    Draw({{"Sin", "", {2}, {2}}, {"Sin", "", {1}, {1}}});
-    Draw({{"Constant Input", "1", {}, {1}}}, 2);
+    // clang-format off
+    Draw({{"Sin", "", {0, 0, 0}}, {"Constant Input", "2", {0, 0, 0}},
+          {"Constant Input", "3", {-1, -1, 0}}, {"Constant Input", "4", {5, 0, 0}},
+          {"Sin", "", {0, 0, -1}}, {"Constant Input", "6", {}, {10}}, {"Constant Input2", "7"}});
+    // clang-format on
+    Draw({{"Constant Input", "8"}, {"Cos", "", {0, 0, 0}}, {"Sin", "", {6}}}, 2);
+    Draw({{"Sin", "", {11}, {11}}}, 3);
+    EXPECT_EQ(Compile(), Crlf("box6=6;\nbox10=sin(box6);\n"));
+    frmPrefs.chkInput.Value = 1;
+    EXPECT_EQ(Compile(), Crlf("box6=6;\nbox2=2;\nbox1=sin(box0);\nbox10=sin(box6);\n"));
+    frmPrefs.chkInput.Value = 0;
+    EXPECT_EQ(CompileDocument(1, "2"), Crlf("box8=8;\n"));
+    Boxes[6].BoxMark = "OK";
+    EXPECT_EQ(Compile(), "") << "what is marked is done";
     EditMode = 5;
-    EXPECT_EQ(Compile(), "");
-    EXPECT_EQ(Told(), Texts{"There are no inputs !"});
-    EXPECT_EQ(screen.Messages[0].Picture, Icon::Exclamation);
-    EXPECT_EQ(screen.Messages[0].Choice, Buttons::Ok);
-    EXPECT_EQ(lastRunEnd, RunEnd::Refused);
+    EXPECT_EQ(CompileDocument(1, "3"), "");
+    EXPECT_EQ(Told().back(), "There are no inputs !");
     EXPECT_EQ(EditMode, 5);
-    EXPECT_EQ(DocumentWindow(1).MousePointer, PointerDefault);
+    ExpectAtRest(RunEnd::Refused);
 }
 
 TEST_F(WalkTest, ARemovalHidesTheNextBoxUntilTheNextPass) {
@@ -76,175 +48,64 @@ TEST_F(WalkTest, ARemovalHidesTheNextBoxUntilTheNextPass) {
 }
 
 TEST_F(WalkTest, SlotsThatAPassAddsWaitForTheNext) {
-    Draw({{"Constant Input", "0", {}, {3, 4, 5, 6, 7}},
-          {"Constant Input", "0"},
-          {"Screen Output", "", {2}},
-          {"Screen Output", "", {2}},
-          {"Screen Output", "", {2}},
-          {"Sin", "", {1}, {8}},
-          {"Screen Output", "", {1}},
-          {"Screen Output", "", {6}}});
+    // clang-format off
+    Draw({{"Constant Input", "0", {}, {3, 4, 5, 6, 7}}, {"Constant Input", "0"},
+          {"Screen Output", "", {2}}, {"Screen Output", "", {2}}, {"Screen Output", "", {2}},
+          {"Sin", "", {1}, {8}}, {"Screen Output", "", {1}}, {"Screen Output", "", {6}}});
+    // clang-format on
     EXPECT_EQ(Compile(), Crlf("box1=0;\nbox6=sin(box1);\nbox2=0;\nbox4=box2\nbox7=box1\nbox3=box2\n"
                               "box8=box6\nbox5=box2\n"));
-    EXPECT_EQ(Told(), Texts{"Done !"});
+    // The next run finds them there.
+    EXPECT_EQ(Compile(), Crlf("box1=0;\nbox6=sin(box1);\nbox8=box6\nbox2=0;\nbox4=box2\nbox7=box1\n"
+                              "box3=box2\nbox5=box2\n"));
 }
 
 TEST_F(WalkTest, TheFrontTakesEachBoxOnce) {
-    using Numbers = std::vector<std::int16_t>;
-    for (const auto box : Numbers{7, 0, -1, 8, 7, 9}) AddToFront(box);
+    for (const auto box : Slots{7, 0, -1, 8, 7, 9}) AddToFront(box);
     RemoveFromFront(2);
     AddToFront(0);
     EXPECT_EQ(frontWidth, 5);
-    for (const auto box : Numbers{1, 2, 3, 0}) AddToFront(box);
+    for (const auto box : Slots{1, 2, 3, 0}) AddToFront(box);
     EXPECT_EQ(frontWidth, 10);
     AddToFront(4);
-    const std::vector<int> expected = {0, 7, 9, 1, 2, 3, 4, 0, 0, 0, 0};
-    for (int slot = 0; slot <= 10; ++slot) EXPECT_EQ(Front[slot], expected[slot]) << slot;
-    EXPECT_EQ(Front.UpperBound(), 10);
+    EXPECT_EQ(FrontSlots(), (Slots{0, 7, 9, 1, 2, 3, 4, 0, 0, 0, 0}));
 }
 
-TEST_F(WalkTest, AnswersToAStall) {
-    struct Case {
-        std::vector<Answer> Answers;
-        int Visits;  ///< 0 for a run that was aborted
+TEST_F(WalkTest, ASparedSlotKeepsWhatAnOldFrameHeld) {
+    const auto fill = [](const Slots& slots) {
+        for (int i = 0; i <= 5; ++i) Front[i] = slots[static_cast<std::size_t>(i)];
     };
-    using enum Answer;
-    for (const auto& row :
-         {Case{{Ignore}, 4}, Case{{Retry, Ignore}, 6}, Case{{Retry, Retry, Ignore}, 8},
-          Case{{Abort}, 0}, Case{{Retry, Abort}, 0}}) {
-        Restart();
-        DrawCountedStall();
-        screen.MessageAnswers.assign(row.Answers.begin(), row.Answers.end());
-        const bool done = row.Visits > 0;
-        EXPECT_EQ(Compile(), done ? "box1=1;\r\n" + Lines(row.Visits, "box3=x;\n") : "");
-        Texts texts(row.Answers.size(), StallText("box2 (+)"));
-        if (done) texts.push_back("Done !");
-        EXPECT_EQ(Told(), texts);
-        EXPECT_EQ(screen.Messages[0].Picture, Icon::Critical);
-        EXPECT_EQ(screen.Messages[0].Choice, Buttons::AbortRetryIgnore);
-        EXPECT_EQ(screen.Messages[0].Title, "Quorvane");
-        EXPECT_EQ(lastRunEnd, done ? RunEnd::Done : RunEnd::Aborted);
-        EXPECT_EQ(EditMode, done ? 1 : 0);
-        EXPECT_EQ(DocumentWindow(1).MousePointer, PointerDefault);
-        ExpectNoMarks();
-    }
-}
-
-TEST_F(WalkTest, IgnoringDropsTheVisitedBoxAndNotTheSuspect) {
-    // Box 3 fails first, so both questions are about it; box 2 is in the slot at the first of them.
-    Draw({{"Constant Input", "1", {}, {2, 3}},
-          {"Sin", "", {4}},
-          {"Screen Output", "", {4}},
-          {"Cos"}});
-    screen.MessageAnswers = {Answer::Ignore, Answer::Ignore};
-    EXPECT_EQ(Compile(), "box1=1;\r\n");
-    const auto suspect = StallText("box3 (Screen Output)");
-    EXPECT_EQ(Told(), (Texts{suspect, suspect, "Done !"}));
-}
-
-TEST_F(WalkTest, ASuccessAnywhereClearsTheSuspect) {
-    // In each pass three boxes fail and one of the chain 3 to 12 succeeds.
-    Draw({{"Constant Input", "1", {}, {2, 13, 14, 3}}, {"+", "", {1, 12, 0}}});
-    for (int i = 3; i <= 12; ++i) Draw({{"Sin", "", {i == 3 ? 1 : i - 1}, {i == 12 ? 2 : i + 1}}});
-    Draw({{"Screen Output", "", {12}}, {"Screen Output", "", {12}}});
-    const auto script = Compile();
-    EXPECT_TRUE(
-        script.ends_with(Crlf("box12=sin(box11);\nbox2=box1+box12;\nbox14=box12\nbox13=box12\n")))
-        << script;
-    EXPECT_EQ(Told(), Texts{"Done !"});
-}
-
-TEST_F(WalkTest, DeletedBoxesAndMarkedBoxesAreNotWritten) {
-    Draw({{"Constant Input", "Deleted", {}, {2}}, {"Sin", "", {1}}, {"Constant Input", "3"}});
-    Boxes[3].BoxMark = "OK";
-    screen.MessageAnswers = {Answer::Ignore};
-    EXPECT_EQ(Compile(), "");
-    EXPECT_EQ(Told(), (Texts{StallText("box1 (Constant Input)"), "Done !"}));
-    ExpectNoMarks();
-}
-
-TEST_F(WalkTest, ArrowsLeadIntoOtherDocuments) {
-    Draw({{"Constant Input", "1", {}, {2}}});
-    Draw({{"Sin", "", {1}}, {"Constant Input", "3"}}, 2);
-    EXPECT_EQ(Compile(), Crlf("box1=1;\nbox2=sin(box1);\n"));
-    EXPECT_EQ(CompileDocument(1, "2"), "box3=3;\r\n");
-}
-
-TEST_F(WalkTest, APickupWritesItsLineForEachBox) {
-    Draw({{"Constant Input", "1", {}, {2, 3}},
-          {"+", "", {1, 4, 0}},
-          {"-", "", {4, 1}},
-          {"Pickup", "x", {}, {2, 3}}});
-    EXPECT_EQ(Compile(), Crlf("box1=1;\nbox4=x;\nbox3=box4-box1;\nbox4=x;\nbox2=box1+box4;\n"));
-    ExpectNoMarks();
-}
-
-TEST_F(WalkTest, OnlyTheFirstLineOfABoxIsIndented) {
-    Draw({{"For", "1:2", {6}, {2}},
-          {"+", "", {1, 3, 0}, {4}},
-          {"Pickup", "x"},
-          {"Pause", "", {2}, {5}},
-          {"Next", "", {4}},
-          {"Dummy Input", "", {}, {1}}});
-    EXPECT_EQ(Compile(), Crlf("for box1=1:2\n   box3=x;\nbox2=box1+box3;\n   box4=box2;\npause;\n"
-                              "end;\nbox5=box4;\n"));
+    fill({5, 7, 8, 0, 0, 9});
+    PushFront(ErrorPolicy::Fatal, -1);
+    EXPECT_TRUE(IsFrontEmpty());
+    EXPECT_EQ(FrontSlots(), Slots(6));
+    PopFront();
+    EXPECT_EQ(FrontSlots(), (Slots{5, 7, 8, 0, 0, 9}));
+    fill({6, 7, 4, 0, 0, 3});
+    PushFront(ErrorPolicy::Fatal, 2);
+    EXPECT_EQ(FrontSlots(), (Slots{0, 0, 4, 0, 0, 0}));
+    Front[1] = 1;
+    PopFront();
+    EXPECT_EQ(FrontSlots(), (Slots{6, 7, 8, 0, 0, 3}));
 }
 
 TEST_F(WalkTest, PointerAndGaugeOfAllWindows) {
     NewDocument();
     Draw({{"Constant Input", "1"}, {"Constant Input", "2"}, {"Matrix Input"}});
-    std::vector<double> seen;
-    screen.Forms["frmMatrix"] = [&] {
+    lastRunEnd = RunEnd::Done;
+    screen.Forms["frmMatrix"] = [] {
         for (const int i : {1, 2}) {
             EXPECT_EQ(DocumentWindow(i).MousePointer, PointerHourglass);
-            seen.push_back(DocumentWindow(i).pnlResource.Value);
+            // One of three boxes, as a whole number
+            EXPECT_EQ(DocumentWindow(i).pnlResource.Value, 33);
         }
-        EXPECT_EQ(Boxes[1].BoxMark, "OK");
-        EXPECT_EQ(EditMode, 0);
         EXPECT_EQ(lastRunEnd, RunEnd::None);
     };
     Compile();
-    EXPECT_EQ(seen, (std::vector<double>{33, 33}));  // one of three boxes, as a whole number
+    EXPECT_EQ(screen.FormsShown.size(), 1U);
     for (const int i : {1, 2}) {
         EXPECT_EQ(DocumentWindow(i).MousePointer, PointerDefault);
         EXPECT_DOUBLE_EQ(DocumentWindow(i).pnlResource.Value, 3 / 350.0 * 100);
-    }
-}
-
-TEST_F(WalkTest, NumbersOutsideTheTable) {
-    // Fatal: the run ends with error 9. Under the ignore policy, which a cancelled file input turns
-    // on, the box is one that can't be processed.
-    const std::vector<std::pair<TestBox, const char*>> cases = {
-        {{"Sin", "", {1}, {351}}, "box351 ()"},
-        {{"Sin", "", {1}, {32767}}, "box32767 ()"},
-        {{"Sin", "", {351}}, "box2 (Sin)"},
-        {{"If", "c", {1}, {351}}, "box351 ()"},
-    };
-    for (const auto& [box, suspect] : cases) {
-        SCOPED_TRACE(suspect);
-        Restart();
-        Draw({{"Dummy Input", "", {}, {2}}, box});
-        EXPECT_EQ(ErrorOf([&] { Compile(); }), 9);
-        EXPECT_TRUE(screen.Messages.empty());
-        EXPECT_EQ(lastRunEnd, RunEnd::None);
-        EXPECT_EQ(DocumentWindow(1).MousePointer, PointerDefault);
-        ExpectNoMarks();
-        Boxes[1].BoxType = "Ascii File Input";
-        EXPECT_EQ(Compile(), "");
-        EXPECT_EQ(Told(), Texts{StallText(suspect)});
-        EXPECT_EQ(lastRunEnd, RunEnd::Aborted);
-    }
-}
-
-TEST_F(WalkTest, NegativeExits) {
-    Draw({{"Constant Input", "1", {}, {-1, -5, 2}}, {"Screen Output", "", {1}}});
-    EXPECT_EQ(Compile(), Crlf("box1=1;\nbox2=box1\n"));
-    // An arm that starts nowhere would never empty the front.
-    for (const char* source : {"Dummy Input", "Ascii File Input"}) {
-        Restart();
-        Draw({{source, "", {}, {2}}, {"If", "c", {1}, {-1}}});
-        EXPECT_EQ(ErrorOf([&] { Compile(); }), 9) << source;
-        ExpectNoMarks();
     }
 }
 

@@ -83,6 +83,23 @@ TEST_F(FileTable, EveryLineEndEndsALine) {
     }
 }
 
+TEST_F(FileTable, AFieldEndsAtACommaOrWithItsLine) {
+    const std::string block(16384, 'x');  // the comma is the next buffer's first byte
+    WriteAll(folder / "f", "a, b \r\n\"c,d\"\n,\r\n" + block + ",e\rlast");
+    const std::vector<std::string> fields = {"a", " b ", "\"c", "d\"", "", "", block, "e", "last"};
+    OpenForInput(1, folder / "f");
+    for (const auto& field : fields) EXPECT_EQ(InputField(1), field);
+    EXPECT_TRUE(EndOfFile(1));
+    EXPECT_EQ(RaisedError([] { InputField(1); }), 62);
+    CloseFile(1);
+    WriteAll(folder / "f", "a,b\r\nc,");
+    OpenForInput(1, folder / "f");
+    EXPECT_EQ(InputField(1), "a");
+    EXPECT_EQ(LineInput(1), "b") << "a line goes on where a field has ended";
+    EXPECT_EQ(InputField(1), "c");
+    EXPECT_TRUE(EndOfFile(1)) << "nothing stands behind the last comma";
+}
+
 TEST_F(FileTable, ALineMayFillTheLimitAndNoMore) {
     const std::string line(MaxLineLength, 'x');
     WriteAll(folder / "f", line + "\r\n" + line + "y");

@@ -1,0 +1,142 @@
+// SPDX-License-Identifier: MIT
+#include "platform/profile_file.h"
+
+#define SI_NO_CONVERSION
+#define SI_IMPLEMENTATION
+#include <SimpleIni.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <vector>
+
+#include "platform/file_table.h"
+#include "platform/numbers.h"
+#include "platform/paths.h"
+#include "platform/runtime_error.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::uintmax_t LargestFile = 16 * 1024 * 1024;
+
+/// What a line says: it begins a section, or gives a key a value. Any other says nothing.
+struct Meaning {
+    std::optional<std::string> Section;
+    std::optional<std::string> Key;
+    std::string Value;
+};
+
+/// The library gets each line for itself. A whole file it would give back with other blank lines
+/// and without the lines that it doesn't understand.
+Meaning MeaningOf(const std::string& line) {
+    CSimpleIniA ini(true);
+    Meaning meaning;
+    if (ini.LoadData(line) < 0) return meaning;
+    CSimpleIniA::TNamesDepend names;
+    ini.GetAllSections(names);
+    if (names.empty()) return meaning;
+    const char* section = names.front().pItem;
+    ini.GetAllKeys(section, names);
+    if (names.empty()) {
+        meaning.Section = LowerCase(section);
+    } else {
+        meaning.Key = LowerCase(names.front().pItem);
+        meaning.Value = ini.GetValue(section, names.front().pItem);
+    }
+    return meaning;
+}
+
+std::vector<std::string> LinesOf(const std::string& text) {
+    std::vector<std::string> lines;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto end = std::min(text.find_first_of("\r\n", at), text.size());
+        lines.push_back(text.substr(at, end - at));
+        at = end + (text.compare(end, 2, "\r\n") == 0 ? 2 : 1);
+    }
+    return lines;
+}
+
+/// Nothing when the file is there and can't be read; a missing one has no lines.
+std::optional<std::vector<std::string>> ReadLines(const std::string& path) {
+    namespace fs = std::filesystem;
+    std::error_code error;
+    const auto status = fs::status(path, error);
+    if (!fs::exists(status)) return std::vector<std::string>();
+    if (!fs::is_regular_file(status) || fs::file_size(path, error) > LargestFile) return {};
+    std::ifstream file(path, std::ios::binary);
+    if (!file) return {};
+    return LinesOf({std::istreambuf_iterator<char>(file), {}});
+}
+
+/// Where a key stands in the lines of a file, and where its line would go.
+struct Place {
+    std::optional<std::size_t> Line;    ///< Of the key
+    std::optional<std::size_t> Behind;  ///< One behind the section's last key or header
+    std::string Value;
+};
+
+Place FindKey(const std::vector<std::string>& lines, std::string_view section,
+              std::string_view key) {
+    const auto wantedSection = LowerCase(section);
+    const auto wantedKey = LowerCase(key);
+    Place place;
+    bool inside = false;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        auto meaning = MeaningOf(lines[i]);
+        if (meaning.Section) inside = *meaning.Section == wantedSection;
+        if (!inside || (!meaning.Section && !meaning.Key)) continue;
+        place.Behind = i + 1;
+        if (meaning.Key != wantedKey) continue;
+        place.Line = i;
+        place.Value = std::move(meaning.Value);
+        break;
+    }
+    return place;
+}
+
+/// Whatever fails, the file is closed, which leaves the old one or the new one whole.
+void WriteLines(const std::string& path, const std::vector<std::string>& lines) {
+    std::string text;
+    for (const auto& line : lines) text += line + "\r\n";
+    Attempt([&] {
+        const int number = FreeFile();
+        OpenForOutput(number, path);
+        Attempt([&] { Print(number, text); });
+        CloseFile(number);
+    });
+}
+
+}  // namespace
+
+std::string GetPrivateProfileString(std::string_view section, std::string_view key,
+                                    const std::string& defaultText, const std::string& file) {
+    const auto lines = ReadLines(FindFile(file));
+    if (!lines) return defaultText;
+    auto place = FindKey(*lines, section, key);
+    return place.Line ? std::move(place.Value) : defaultText;
+}
+
+void WritePrivateProfileString(std::string_view section, std::string_view key,
+                               std::string_view value, const std::string& file) {
+    const auto path = FindFile(file);
+    auto lines = ReadLines(path);
+    if (!lines) return;
+    std::string line(key);
+    line += '=';
+    line += value.substr(0, value.find_first_of(std::string_view("\r\n\0", 3)));
+    const auto place = FindKey(*lines, section, key);
+    if (place.Line) {
+        (*lines)[*place.Line] = line;
+    } else if (place.Behind) {
+        lines->insert(lines->begin() + static_cast<std::ptrdiff_t>(*place.Behind), line);
+    } else {
+        lines->push_back("[" + std::string(section) + "]");
+        lines->push_back(line);
+    }
+    WriteLines(path, *lines);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+#include <functional>
+#include <vector>
+
+#include "qt/form_view.h"
+
+namespace quorvane {
+
+/// An icon of the catalogue page or of the panel.
+class IconTile : public QLabel {
+public:
+    IconTile(const QString& name, QWidget* holder);
+    void ShowCell(int cell);
+
+    std::function<void()> Entered;  ///< The pointer moves over it
+    std::function<void(Qt::MouseButton)> Pressed;
+    std::function<void()> Chosen;  ///< Enter
+    QByteArray Carried;            ///< What a drag of it carries; none when empty
+
+protected:
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    int cell_ = -1;
+    QPoint pressedAt_;
+};
+
+/// The dialog in which a toolbox is built: the icons of a page are dragged into the panel. By
+/// keyboard, Enter puts the icon in, and Delete takes one out.
+class ConfigToolboxView : public FormView {
+public:
+    ConfigToolboxView(const Form& form, QWidget* parent);
+    void Refresh() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void RefreshPanel();
+
+    QWidget* page_;
+    QWidget* panel_;
+    std::vector<IconTile*> catalogue_;
+    std::vector<IconTile*> icons_;  ///< Of the panel, by their index
+};
+
+}  // namespace quorvane

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: MIT
+#include "qt/help_window.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QSplitter>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QToolBar>
+#include <QTreeWidget>
+
+#include "qt/frame_view.h"
+#include "qt/screen_units.h"
+
+namespace quorvane {
+
+namespace {
+
+enum HelpCommand { Quit = 2, Contents = 3, HowTo = 4, Search = 261 };
+
+const char* const HowToText =
+    "<h2>How to use the help</h2>"
+    "<p>The list at the left holds the pages. Choose one to read it. Links in the text lead on, "
+    "and "
+    "<b>Back</b> returns to where you were.</p>"
+    "<p>To look for a word, type it in the field above and press Enter. Each further Enter goes to "
+    "the next place.</p>";
+
+QPointer<HelpWindow> helpWindow;
+
+}  // namespace
+
+HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
+    setObjectName("helpWindow");
+    setWindowTitle("Quorvane Help");
+    auto* splitter = new QSplitter(this);
+    contents_ = new QTreeWidget;
+    contents_->setObjectName("helpContents");
+    contents_->setAccessibleName("Contents");
+    contents_->setHeaderHidden(true);
+    text_ = new QTextBrowser;
+    text_->setObjectName("helpText");
+    text_->setOpenExternalLinks(true);
+    splitter->addWidget(contents_);
+    splitter->addWidget(text_);
+    splitter->setStretchFactor(1, 1);
+    splitter->setSizes({240, 640});
+    setCentralWidget(splitter);
+    auto* bar = addToolBar("Help");
+    bar->setMovable(false);
+    auto* back = bar->addAction("&Back", text_, &QTextBrowser::backward);
+    back->setShortcut(QKeySequence::Back);
+    back->setEnabled(false);
+    connect(text_, &QTextBrowser::backwardAvailable, back, &QAction::setEnabled);
+    auto* label = new QLabel(" &Search: ");
+    search_ = new QLineEdit;
+    search_->setObjectName("helpSearch");
+    search_->setClearButtonEnabled(true);
+    label->setBuddy(search_);
+    bar->addWidget(label);
+    bar->addWidget(search_);
+    connect(search_, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
+    connect(contents_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+        if (item) text_->scrollToAnchor(item->data(0, Qt::UserRole).toString());
+    });
+    resize(920, 680);
+}
+
+bool HelpWindow::Open(const std::string& file) {
+    QFile manual(ToScreen(file));
+    if (!manual.open(QIODevice::ReadOnly)) return false;
+    text_->setSearchPaths({QFileInfo(manual).absolutePath()});
+    text_->setHtml(QString::fromUtf8(manual.readAll()));
+    FillContents();
+    return true;
+}
+
+/// The headings of the manual are its contents; each is found again by the anchor in front of it.
+void HelpWindow::FillContents() {
+    const QSignalBlocker quiet(contents_);
+    contents_->clear();
+    QTreeWidgetItem* chapter = nullptr;
+    for (auto block = text_->document()->begin(); block.isValid(); block = block.next()) {
+        const int level = block.blockFormat().headingLevel();
+        if (level < 1 || level > 2) continue;
+        QString anchor;
+        for (auto it = block.begin(); !it.atEnd() && anchor.isEmpty(); ++it) {
+            const auto names = it.fragment().charFormat().anchorNames();
+            if (!names.isEmpty()) anchor = names.constFirst();
+        }
+        const bool top = level == 1 || !chapter;
+        auto* item = top ? new QTreeWidgetItem(contents_) : new QTreeWidgetItem(chapter);
+        item->setText(0, block.text());
+        item->setData(0, Qt::UserRole, anchor);
+        if (level == 1) chapter = item;
+    }
+    contents_->expandAll();
+}
+
+void HelpWindow::ShowContents() { text_->moveCursor(QTextCursor::Start); }
+
+void HelpWindow::ShowHowTo() {
+    contents_->clear();
+    text_->setHtml(HowToText);
+}
+
+void HelpWindow::ShowSearch() {
+    search_->setFocus();
+    search_->selectAll();
+}
+
+void HelpWindow::FindNext() {
+    if (search_->text().isEmpty() || text_->find(search_->text())) return;
+    text_->moveCursor(QTextCursor::Start);
+    text_->find(search_->text());
+}
+
+void RunHelpCommand(const std::string& file, int command) {
+    if (command == Quit) {
+        delete helpWindow;
+        return;
+    }
+    if (!helpWindow) helpWindow = new HelpWindow(frameView);
+    if (!helpWindow->Open(file)) {
+        delete helpWindow;
+        return;
+    }
+    if (command == HowTo) helpWindow->ShowHowTo();
+    if (command == Contents) helpWindow->ShowContents();
+    helpWindow->show();
+    helpWindow->raise();
+    helpWindow->activateWindow();
+    if (command == Search) helpWindow->ShowSearch();
+}
+
+}  // namespace quorvane

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QMainWindow>
+#include <string>
+
+class QLineEdit;
+class QTextBrowser;
+class QTreeWidget;
+
+namespace quorvane {
+
+/// The help viewer: a window of its own over the manual, with its contents and a search.
+class HelpWindow : public QMainWindow {
+public:
+    explicit HelpWindow(QWidget* parent);
+    /// Shows the manual; false when the file can't be read.
+    bool Open(const std::string& file);
+    void ShowContents();
+    void ShowHowTo();
+    void ShowSearch();
+
+private:
+    void FillContents();
+    void FindNext();
+
+    QTextBrowser* text_;
+    QTreeWidget* contents_;
+    QLineEdit* search_;
+};
+
+/// Hands a command of the program to the viewer, which comes when it is first needed. A file that
+/// can't be read reports nothing.
+void RunHelpCommand(const std::string& file, int command);
+
+}  // namespace quorvane

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QLabel>
+
+#include "diagram/worksheet.h"
+
+namespace quorvane {
+
+/// The panel of the guided tour on a worksheet. A click, or Enter, goes a step on.
+class TourView : public QLabel {
+public:
+    TourView(int document, QWidget* parent);
+    void Refresh(const TourPanel& panel);
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    void GoOn();
+
+    int document_;
+};
+
+}  // namespace quorvane

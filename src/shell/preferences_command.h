@@ -1,0 +1,18 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "diagram/worksheet.h"
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// Shows the preferences, and then brings every open document and the toolbox in line with them,
+/// however the dialog ended. The worksheet that gave the command is drawn anew.
+void mnuOptionsPrefs_Click(Worksheet& sheet);
+
+/// Loads the toolbox anew, by its new name and size.
+void frmPrefs_cmdOK_Click();
+/// Without the sample line, which the screen draws by its own means.
+Form frmPrefs_Table();
+
+}  // namespace quorvane

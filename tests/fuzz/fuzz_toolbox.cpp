@@ -1,0 +1,137 @@
+// SPDX-License-Identifier: MIT
+// Loads the input as a toolbox file, into the toolbox window and into the dialog that builds one,
+// uses both and saves. Nothing may fail or leave a wrong count behind, and what was saved must come
+// back.
+#include <cstdint>
+#include <iostream>
+
+#include "catalogue/icon_table.h"
+#include "diagram/box_table.h"
+#include "diagram/preferences.h"
+#include "diagram/worksheet_events.h"
+#include "files/document_file.h"
+#include "files/work_folder.h"
+#include "shell/application.h"
+#include "support/scripted_desktop.h"
+#include "toolbox/toolbox.h"
+#include "toolbox/toolbox_config.h"
+
+using namespace quorvane;
+
+namespace {
+
+void Check(bool holds, const std::string& what) {
+    if (holds) return;
+    std::cerr << "FINDING: " << what << std::endl;
+    std::abort();
+}
+
+/// FNV-1a. What the user does hangs on it, so that no byte of the input is spent on that.
+std::uint32_t HashOf(std::string_view bytes) {
+    std::uint32_t hash = 2166136261U;
+    for (const char byte : bytes) hash = (hash ^ static_cast<std::uint8_t>(byte)) * 16777619U;
+    return hash ^ (hash >> 15);
+}
+
+void CheckFaces(const ControlArray<IconButton>& icons) {
+    for (int i = 1; i < icons.Size(); ++i) {
+        if (!icons.Has(i)) continue;
+        Check(icons[i].Picture >= 1 && icons[i].Picture <= IconCells, "an icon without a face");
+    }
+}
+
+void UseToolbox(std::uint32_t hash) {
+    const int count = frmPictures.Keys.UpperBound();
+    Check(count >= 1, "a toolbox counts no keys");
+    Check(frmPictures.cmd.Size() <= MostToolboxButtons + 1, "a toolbox has too many buttons");
+    CheckFaces(frmPictures.cmd);
+    for (int i = 1; frmPictures.cmd.Has(i); ++i) {
+        Check(i <= count && !frmPictures.Keys[i].empty(), "a button has no key");
+        EditMode = static_cast<std::int16_t>((hash + static_cast<unsigned>(i)) % 8);
+        frmPictures_cmd_Click(i);
+    }
+    frmPictures_Resize(hash % 9000, hash / 9000 % 9000);
+    Check(frmPictures.Columns >= 1, "a resized toolbox has no columns");
+}
+
+/// The panel's keys, as a toolbox that was made of them has them.
+std::string PanelKeys() {
+    std::string keys;
+    for (std::size_t at = 0; at < frmConfigToolbox.lbltoolbox.Caption.size();) {
+        const auto end = frmConfigToolbox.lbltoolbox.Caption.find("\r\n", at);
+        const auto key = frmConfigToolbox.lbltoolbox.Caption.substr(at, end - at);
+        if (!key.empty()) keys += key + "\n";
+        at = end + 2;
+    }
+    return keys;
+}
+
+void UseDialog(std::uint32_t hash) {
+    for (unsigned i = 0; i < hash % 40; ++i) {
+        const auto choice = (hash >> (i % 24)) % 30 + i % 3;
+        frmConfigToolbox.scroll.Value = static_cast<std::int16_t>(choice % 9);
+        frmConfigToolbox_scroll_Change();
+        const int element = static_cast<int>(choice % 18) + 1;
+        frmConfigToolbox_cmdPict_MouseMove(element);
+        if (choice % 3 != 0) frmConfigToolbox_pnlToolbox_DragDrop(element);
+        const int icon = static_cast<int>(choice) % (frmConfigToolbox.Count + 1);
+        if (choice % 3 == 0 && icon > 0 && frmConfigToolbox.cmdButton.Has(icon)) {
+            frmConfigToolbox_cmdButton_MouseDown(icon, RightButton);
+        }
+    }
+    CheckFaces(frmConfigToolbox.cmdButton);
+    Check(frmConfigToolbox.Count >= 0, "the dialog counts below nothing");
+}
+
+/// Loads the file into the dialog as its user does.
+void LoadDialog(quorvane::testing::ScriptedDesktop& screen, const std::string& path) {
+    frmConfigToolbox_Load();
+    screen.Paths = {path};
+    frmConfigToolbox.chkReload.Value = 1;
+    frmConfigToolbox_chkReload_Click();
+    Check(screen.Messages.empty(), "loading tells something");
+}
+
+/// Saves the panel under the toolbox's own name and looks at what both read from there.
+void SaveAndLoadAgain(quorvane::testing::ScriptedDesktop& screen, const std::string& path) {
+    const auto keys = PanelKeys();
+    const auto text = frmConfigToolbox.lbltoolbox.Caption;
+    frmConfigToolbox.Form.Visible = true;
+    frmConfigToolbox_cmdOK_Click();
+    Check(!frmConfigToolbox.Form.Visible, "the panel can't be saved");
+    std::string loaded;
+    for (int i = 1; i <= frmPictures.Keys.UpperBound(); ++i) {
+        if (!frmPictures.Keys[i].empty()) loaded += frmPictures.Keys[i] + "\n";
+    }
+    Check(loaded == keys, "the toolbox reads other keys than were saved");
+    screen.Messages.clear();
+    LoadDialog(screen, path);
+    Check(frmConfigToolbox.lbltoolbox.Caption == text,
+          "the panel reads other keys than were saved");
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    // In memory where there is such a thing: a save waits for the disk.
+    if (std::filesystem::is_directory("/dev/shm")) setenv("TMPDIR", "/dev/shm", 0);
+    static const quorvane::testing::WorkFolder folder;
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    const auto hash = HashOf(bytes);
+    quorvane::testing::WriteAll(folder / "t.tlb", bytes);
+    quorvane::testing::ScriptedDesktop screen;
+    ResetApplication();
+    desktop = &screen;
+    ProgramDirectory = folder.Path.string();
+    NewDocument();
+    frmPrefs.txtToolbox.Text = "t.tlb";
+    frmPrefs.lbltoolboxsize.Caption = std::to_string(hash % 14) + "X3";
+    LoadToolbox();
+    UseToolbox(hash);
+    LoadDialog(screen, folder / "t.tlb");
+    UseDialog(hash);
+    SaveAndLoadAgain(screen, folder / "t.tlb");
+    ResetApplication();
+    desktop = nullptr;
+    return 0;
+}

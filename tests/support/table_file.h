@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace quorvane::testing {
+
+/// Parts a line at the separators; an empty line is one empty part.
+inline std::vector<std::string> Split(const std::string& line, char separator) {
+    std::vector<std::string> parts(1);
+    for (const char c : line) {
+        if (c == separator) {
+            parts.emplace_back();
+        } else {
+            parts.back() += c;
+        }
+    }
+    return parts;
+}
+
+/// A cell as it is meant: \r, \n, \t, \s (a blank) and \\ stand for one character each.
+inline std::string Unescaped(const std::string& cell) {
+    std::string text;
+    for (std::size_t i = 0; i < cell.size(); ++i) {
+        if (cell[i] != '\\') {
+            text += cell[i];
+            continue;
+        }
+        const std::string codes = "rnts\\";
+        const auto code = codes.find(++i < cell.size() ? cell[i] : ' ');
+        if (code == std::string::npos) throw std::runtime_error("an unknown escape in " + cell);
+        text += "\r\n\t \\"[code];
+    }
+    return text;
+}
+
+/// The rows of a table of cells parted by TAB. Empty lines and those that begin with "#" are none;
+/// the first line, "# " and the names of the columns, tells how many cells a row has: missing ones
+/// read as "". One cell more stands behind them, which tells the row's place as "file:line".
+/// `path` counts from tests/. Throws when there is no row, or one with too many cells.
+inline std::vector<std::vector<std::string>> ReadTable(const std::filesystem::path& path) {
+    std::ifstream file(std::filesystem::path(QUORVANE_SOURCE_DIR "/tests") / path);
+    std::vector<std::vector<std::string>> rows;
+    std::size_t columns = 0;
+    int number = 0;
+    for (std::string line; std::getline(file, line);) {
+        const auto place = path.filename().string() + ":" + std::to_string(++number);
+        auto cells = Split(line, '\t');
+        if (number == 1) columns = cells.size();
+        if (line.empty() || line[0] == '#') continue;
+        if (cells.size() > columns) throw std::runtime_error(place + ": too many cells");
+        std::transform(cells.begin(), cells.end(), cells.begin(), Unescaped);
+        cells.resize(columns);
+        cells.push_back(place);
+        rows.push_back(std::move(cells));
+    }
+    if (rows.empty()) throw std::runtime_error("no rows in " + path.string());
+    return rows;
+}
+
+}  // namespace quorvane::testing

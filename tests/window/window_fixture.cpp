@@ -1,0 +1,239 @@
+// SPDX-License-Identifier: MIT
+#include "window/window_fixture.h"
+
+#include <QAbstractButton>
+#include <QAction>
+#include <QApplication>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QInputDialog>
+#include <QLineEdit>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QScreen>
+#include <QSettings>
+#include <QTest>
+#include <QTimer>
+
+#include "qt/dispatch.h"
+#include "qt/worksheet_view.h"
+#include "shell/application.h"
+
+namespace quorvane::testing {
+
+namespace {
+
+void Fail(const QString& text) { QTest::qFail(qPrintable(text), __FILE__, __LINE__); }
+
+QWidget* Shown(const QWidget* parent, const QString& name) {
+    const auto found = parent ? parent->findChildren<QWidget*>(name) : QList<QWidget*>();
+    for (auto* widget : found) {
+        if (widget->isVisible()) return widget;
+    }
+    return nullptr;
+}
+
+QAction* FindEntry(const QList<QAction*>& actions, const QString& control) {
+    for (auto* action : actions) {
+        if (!action->isVisible()) continue;
+        if (action->objectName() == control) return action;
+        if (!action->menu()) continue;
+        if (auto* found = FindEntry(action->menu()->actions(), control)) return found;
+    }
+    return nullptr;
+}
+
+QString Question(const QDialog& dialog) {
+    if (const auto* box = qobject_cast<const QMessageBox*>(&dialog)) {
+        return box->windowTitle() + ": " + box->text();
+    }
+    if (const auto* prompt = qobject_cast<const QInputDialog*>(&dialog)) {
+        return prompt->windowTitle() + ": " + prompt->labelText();
+    }
+    if (const auto* file = qobject_cast<const QFileDialog*>(&dialog)) {
+        return file->acceptMode() == QFileDialog::AcceptSave ? "save" : "open";
+    }
+    return dialog.objectName() + ": " + dialog.windowTitle();
+}
+
+void PlayStep(QDialog& dialog, const QString& step) {
+    auto* control = Shown(&dialog, step.section('=', 0, 0));
+    if (!control || !control->isEnabled()) {
+        Fail("The dialog has no " + step);
+        dialog.done(QDialog::Rejected);
+        return;
+    }
+    const auto text = step.section('=', 1);
+    if (auto* combo = qobject_cast<QComboBox*>(control)) {
+        combo->setCurrentText(text);
+    } else if (auto* line = qobject_cast<QLineEdit*>(control)) {
+        line->selectAll();
+        QTest::keyClicks(line, text);
+    } else {
+        QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
+    }
+}
+
+}  // namespace
+
+Hand Press(int standardButton) {
+    return [standardButton](QDialog& dialog) {
+        auto* box = qobject_cast<QMessageBox*>(&dialog);
+        auto* button =
+            box ? box->button(static_cast<QMessageBox::StandardButton>(standardButton)) : nullptr;
+        if (button) return QTest::mouseClick(button, Qt::LeftButton);
+        Fail("No message box with this button: " + Question(dialog));
+        dialog.done(QDialog::Rejected);
+    };
+}
+
+Hand TypeIn(const QString& text) {
+    return [text](QDialog& dialog) {
+        auto* line = dialog.findChild<QLineEdit*>();
+        if (!line) return dialog.done(QDialog::Rejected);
+        line->selectAll();
+        QTest::keyClicks(line, text);
+        QTest::keyClick(line, Qt::Key_Return);
+    };
+}
+
+Hand PickFile(const QString& path) {
+    return [path](QDialog& dialog) {
+        auto* name = dialog.findChild<QLineEdit*>("fileNameEdit");
+        if (!name) return dialog.done(QDialog::Rejected);
+        name->setText(path);
+        QTest::keyClick(name, Qt::Key_Return);
+    };
+}
+
+Hand Cancel() {
+    return [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); };
+}
+
+Hand Play(std::initializer_list<const char*> steps) {
+    return [all = std::vector<QString>(steps.begin(), steps.end())](QDialog& dialog) {
+        for (const auto& step : all) PlayStep(dialog, step);
+    };
+}
+
+Program::Program() {
+    QCoreApplication::setOrganizationName("Quorvane");
+    QCoreApplication::setApplicationName("Quorvane");
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.filePath("store"));
+    ResetApplication();
+    quorvane::desktop = &desktop_;
+    frame_ = std::make_unique<FrameView>();
+    frame_->show();
+    if (!QTest::qWaitForWindowActive(frame_.get())) Fail("The frame doesn't come to the screen");
+    Watch();
+}
+
+Program::~Program() {
+    RefreshScreen = [] {};
+    frame_.reset();
+    ResetApplication();
+    quorvane::desktop = nullptr;
+}
+
+/// Looks for a dialog again and again, also while another one is being answered.
+void Program::Watch() {
+    QTimer::singleShot(0, this, [this] {
+        Watch();
+        auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        if (!dialog || !dialog->isVisible() || dialog->property("answered").toBool()) return;
+        dialog->setProperty("answered", true);
+        Asked.append(Question(*dialog));
+        if (Answers.empty()) {
+            Fail("Nobody answers " + Asked.last());
+            return dialog->done(QDialog::Rejected);
+        }
+        const auto answer = Answers.front();
+        Answers.pop_front();
+        answer(*dialog);
+        if (QTest::currentTestFailed()) dialog->done(QDialog::Rejected);
+    });
+}
+
+QMdiSubWindow* Program::Window(int document) const {
+    for (auto* window : frame_->Area()->subWindowList()) {
+        if (static_cast<WorksheetView*>(window->widget())->Document() == document) return window;
+    }
+    return nullptr;
+}
+
+QWidget* Program::Surface(int document) const { return Part("surface", document); }
+
+QWidget* Program::Part(const QString& name, int document) const {
+    return Shown(Window(document), name);
+}
+
+QWidget* Program::Box(int number, int document) const {
+    return Part(QString("box(%1)").arg(number), document);
+}
+
+QStringList Program::BoxNames(int document) const {
+    QStringList names;
+    for (int i = 1; i < 20; ++i) {
+        if (const auto* box = Box(i, document)) names.append(box->accessibleName());
+    }
+    return names;
+}
+
+QAction* Program::Entry(const QString& control) const {
+    return FindEntry(frame_->menuBar()->actions(), control);
+}
+
+void Program::Choose(const QString& control) {
+    auto* entry = Entry(control);
+    if (!entry || !entry->isEnabled()) return Fail("No menu entry to choose: " + control);
+    entry->trigger();
+}
+
+void Program::Type(int key, Qt::KeyboardModifiers modifiers) {
+    // Off-screen the end of a dialog leaves no window active.
+    if (!QApplication::activeWindow()) {
+        frame_->activateWindow();
+        if (!QTest::qWaitForWindowActive(frame_.get())) Fail("The frame doesn't take the keys");
+    }
+    auto* target = QApplication::activePopupWidget();
+    if (!target) target = QApplication::focusWidget();
+    if (!target) target = frame_.get();
+    QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
+}
+
+void Program::Click(QPoint at, int document) {
+    QTest::mouseClick(Surface(document), Qt::LeftButton, {}, at);
+}
+
+void Program::Place(const QString& control, QPoint at, int document) {
+    Choose(control);
+    Click(at, document);
+}
+
+void Program::Join(int source, int destination, int document) {
+    Choose("mnuArrow");
+    QTest::mouseClick(Box(source, document), Qt::LeftButton);
+    QTest::mouseClick(Box(destination, document), Qt::LeftButton);
+}
+
+void Program::Band(QPoint from, QPoint to, int document) {
+    auto* surface = Surface(document);
+    QTest::mousePress(surface, Qt::LeftButton, {}, from);
+    QTest::mouseMove(surface, from);
+    QTest::mouseMove(surface, to);
+    QTest::mouseRelease(surface, Qt::LeftButton, {}, to);
+}
+
+QImage Program::Screen(QWidget* widget) const {
+    QCoreApplication::processEvents();
+    const auto all = frame_->screen()->grabWindow(frame_->winId()).toImage();
+    const auto ratio = all.devicePixelRatio();
+    return all.copy(QRectF(widget->mapTo(frame_.get(), QPointF()) * ratio,
+                           QSizeF(widget->size()) * ratio)
+                        .toRect());
+}
+
+}  // namespace quorvane::testing
