@@ -85,7 +85,12 @@ ConfigToolboxView::ConfigToolboxView(const Form& form, QWidget* parent) : FormVi
         tile->setGeometry(ToPixels(frmConfigToolbox.cmdPict[i].Place));
         tile->Carried = QByteArray::number(i);
         tile->Entered = [i] { Dispatch([i] { frmConfigToolbox_cmdPict_MouseMove(i); }); };
-        tile->Chosen = [i] { Dispatch([i] { frmConfigToolbox_pnlToolbox_DragDrop(i); }); };
+        tile->Chosen = [i] {
+            Dispatch([i] {
+                frmConfigToolbox_cmdPict_MouseMove(i);
+                frmConfigToolbox_pnlToolbox_DragDrop(i);
+            });
+        };
         catalogue_.push_back(tile);
     }
 }
@@ -103,7 +108,10 @@ void ConfigToolboxView::RefreshPanel() {
     icons_.resize(static_cast<std::size_t>(qMax(records.Size(), static_cast<int>(icons_.size()))));
     for (int i = 1; i < static_cast<int>(icons_.size()); ++i) {
         auto*& tile = icons_[static_cast<std::size_t>(i)];
-        if (!records.Has(i) || !records[i].Visible) {
+        // A file may hold thousands of keys; those below the panel's edge need no widget.
+        const bool shows = records.Has(i) && records[i].Visible &&
+                           ToPixels(records[i].Place.Top) < panel_->height();
+        if (!shows) {
             if (tile) tile->hide();
             if (tile) tile->deleteLater();
             tile = nullptr;

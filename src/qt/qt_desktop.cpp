@@ -87,8 +87,8 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
                        const std::string& fileName) {
     QFileDialog dialog(Parent());
     dialog.setAcceptMode(mode);
-    dialog.setFileMode(mode == QFileDialog::AcceptSave ? QFileDialog::AnyFile
-                                                       : QFileDialog::ExistingFile);
+    // A name without a file is for the program to refuse, which has its own words for it.
+    dialog.setFileMode(QFileDialog::AnyFile);
     if (QGuiApplication::platformName() == "offscreen") {
         dialog.setOption(QFileDialog::DontUseNativeDialog);
     }

@@ -30,8 +30,8 @@ QPolygonF Slice(const DrawnShape& pie) {
     return slice;
 }
 
-/// Lines along an axis, as those of arrows are, are filled as rectangles: that costs a third of what
-/// a pen does.
+/// Lines along an axis, as those of arrows are, are filled as rectangles: that costs a third of
+/// what a pen does.
 void PaintLine(QPainter& painter, const DrawnShape& line, const QColor& color, int width) {
     const QPointF from = QPointF(line.X1, line.Y1) / UnitsPerPixel;
     const QPointF to = QPointF(line.X2, line.Y2) / UnitsPerPixel;

@@ -2,6 +2,7 @@
 #include "qt/toolbox_view.h"
 
 #include <QCloseEvent>
+#include <QScreen>
 #include <QToolButton>
 
 #include "qt/dispatch.h"
@@ -29,7 +30,9 @@ ToolboxView::ToolboxView(QWidget* frame)
 void ToolboxView::Refresh() {
     const auto& form = frmPictures;
     setWindowTitle(ToScreen(form.Form.Caption));
-    const QSize inner(ToPixels(form.Width - FrameWidth), ToPixels(form.Height - FrameHeight));
+    // A file of very many keys makes a window higher than any screen.
+    const QSize inner(ToPixels(form.Width - FrameWidth), qMin(ToPixels(form.Height - FrameHeight),
+                                                              screen()->availableSize().height()));
     following_ = true;
     if (size() != inner && inner.isValid()) resize(inner);
     following_ = false;

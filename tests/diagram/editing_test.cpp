@@ -32,7 +32,7 @@ protected:
     void CarryOut(const std::vector<std::string>& cells, const std::string& place) {
         for (auto next = cells.begin(); next != cells.end();) {
             const auto& cell = *next++;
-            SCOPED_TRACE(place + " " + cell);
+            SCOPED_TRACE(::testing::Message() << place << " " << cell);
             if (cell.starts_with("at ")) {
                 EXPECT_EQ(awaited, "");
                 awaited = cell.substr(3);

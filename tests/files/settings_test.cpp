@@ -84,7 +84,7 @@ TEST_F(Settings, ValuesThatCountAreTaken) {
 
 TEST_F(Settings, NoFileIsTooBad) {
     std::string binary;
-    for (int i = 0; i < 100000; ++i) binary += static_cast<char>(i * i % 251 + i / 256 % 7);
+    for (unsigned i = 0; i < 100000; ++i) binary += static_cast<char>(i * i % 251);
     std::string lines = "[Prefrences]\r\n";
     for (int i = 0; i < 100000; ++i) lines += "key" + std::to_string(i % 1000) + "=value\r\n";
     const std::string files[] = {

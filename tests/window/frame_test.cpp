@@ -230,8 +230,7 @@ void FrameTest::worksheets_are_minimised_and_maximised() {
     const auto large = program->Window()->widget()->size();
     QVERIFY(large.width() > size.width());
     QCOMPARE(layout()[4].bottomRight(), QPoint(large.width() - 1, large.height() - 1));
-    QCOMPARE(program->Surface()->size(),
-             QSize(layout()[3].left(), layout()[2].top()));
+    QCOMPARE(program->Surface()->size(), QSize(layout()[3].left(), layout()[2].top()));
     QCOMPARE(program->Box(1)->pos(), QPoint(60, 50));
 }
 

@@ -231,9 +231,9 @@ QImage Program::Screen(QWidget* widget) const {
     QCoreApplication::processEvents();
     const auto all = frame_->screen()->grabWindow(frame_->winId()).toImage();
     const auto ratio = all.devicePixelRatio();
-    return all.copy(QRectF(widget->mapTo(frame_.get(), QPointF()) * ratio,
-                           QSizeF(widget->size()) * ratio)
-                        .toRect());
+    return all.copy(
+        QRectF(widget->mapTo(frame_.get(), QPointF()) * ratio, QSizeF(widget->size()) * ratio)
+            .toRect());
 }
 
 }  // namespace quorvane::testing

@@ -20,9 +20,9 @@ namespace quorvane::testing {
 /// What the user does at a dialog.
 using Hand = std::function<void(QDialog& dialog)>;
 
-Hand Press(int standardButton);     ///< A button of a message box
-Hand TypeIn(const QString& text);   ///< A prompt
-Hand PickFile(const QString& path); ///< A file dialog
+Hand Press(int standardButton);      ///< A button of a message box
+Hand TypeIn(const QString& text);    ///< A prompt
+Hand PickFile(const QString& path);  ///< A file dialog
 Hand Cancel();
 /// Clicks the controls of a form one after another; "txtMax=5" types into one, and "cmbType=Bar"
 /// picks.

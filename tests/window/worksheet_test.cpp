@@ -120,10 +120,9 @@ void WorksheetTest::a_diagram_is_drawn_and_compiled() {
     QCOMPARE(QGuiApplication::clipboard()->text(),
              "box1=[1:1:5];\r\nbox2=sin(box1);\r\nplot([1:1:length(box2)],box2,'y')\r\n"
              "title('Sine')\r\ngrid;\r\n");
-    QCOMPARE(program->Asked, QStringList({"frmMakeVector: Make Vector",
-                                          "frmPlot: Plot Options",
-                                          "Quorvane: No more entries for box1 !",
-                                          "Quorvane: Done !"}));
+    QCOMPARE(program->Asked,
+             QStringList({"frmMakeVector: Make Vector", "frmPlot: Plot Options",
+                          "Quorvane: No more entries for box1 !", "Quorvane: Done !"}));
 }
 
 void WorksheetTest::the_keyboard_does_what_the_mouse_does() {
