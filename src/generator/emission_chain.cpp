@@ -2,6 +2,7 @@
 #include "generator/emission_chain.h"
 
 #include <algorithm>
+#include <unordered_map>
 
 #include "generator/box_writers.h"
 #include "generator/control_flow.h"
@@ -200,8 +201,18 @@ void WriteTexts(Run& run, const EmissionRow& row, int box) {
 }  // namespace
 
 const EmissionRow* FindEmissionRow(std::string_view type) {
+    // The rows that list their types are looked up; those that can't list them stand at the end of
+    // the chain and are asked in turn.
+    static const auto byKey = [] {
+        std::unordered_map<std::string_view, const EmissionRow*> rows;
+        for (const auto& row : emissionChain) {
+            for (const auto key : row.Keys) rows.emplace(key, &row);
+        }
+        return rows;
+    }();
+    if (const auto found = byKey.find(type); found != byKey.end()) return found->second;
     for (const auto& row : emissionChain) {
-        if (row.Knows ? row.Knows(type) : Contains(row.Keys, type)) return &row;
+        if (row.Knows && row.Knows(type)) return &row;
     }
     return nullptr;
 }

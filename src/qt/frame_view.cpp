@@ -129,12 +129,9 @@ void FrameView::ShowMenus() {
     const bool ofDocument = activeDocument > 0;
     if (!showsAny_ || showsDocumentMenus_ != ofDocument) {
         menuBar()->clear();
+        // The shortcuts of menus that hang on no bar don't work.
         const auto& set = ofDocument ? documentMenus_ : frameMenus_;
-        const auto& other = ofDocument ? frameMenus_ : documentMenus_;
         for (auto* menu : set.Menus) menuBar()->addMenu(menu);
-        // A shortcut of the bar that isn't shown must not work.
-        for (auto* menu : set.Menus) menu->menuAction()->setVisible(true);
-        for (auto* menu : other.Menus) menu->menuAction()->setVisible(false);
         showsAny_ = true;
         showsDocumentMenus_ = ofDocument;
     }

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
 #include "files/work_folder.h"
 #include "platform/paths.h"
@@ -28,14 +27,6 @@ protected:
         Documents[document]->Caption = name;
         SaveDocument(static_cast<std::int16_t>(document), 1);
         return ReadAll(name);
-    }
-
-    /// Texts of the messages so far, which are then forgotten.
-    std::vector<std::string> TakeMessages() {
-        std::vector<std::string> texts;
-        for (const auto& message : screen.Messages) texts.push_back(message.Text);
-        screen.Messages.clear();
-        return texts;
     }
 
     WorkFolder folder;
