@@ -42,7 +42,7 @@ constexpr int FullCount = 26;
 constexpr int HighestCount = std::numeric_limits<std::int16_t>::max();
 constexpr std::string_view LineEnd = "\r\n";
 
-int FaceOf(std::string_view key) {
+int CellOfKey(std::string_view key) {
     SelectBoxIcon(key);
     return Clip();
 }
@@ -59,7 +59,7 @@ std::string_view CatalogueKey(int number) {
 void ShowCataloguePage() {
     for (int i = 1; i <= frmConfigToolbox.cmdPict.UpperBound; ++i) {
         const auto key = CatalogueKey(CatalogueIndex(i));
-        frmConfigToolbox.cmdPict[i].Picture = key.empty() ? 0 : FaceOf(key);
+        frmConfigToolbox.cmdPict[i].Picture = key.empty() ? 0 : CellOfKey(key);
     }
 }
 
@@ -72,7 +72,7 @@ void LoadPanelIcon(int index, int place, std::string_view key) {
     icon.Place = frmConfigToolbox.cmdButton[0].Place;
     icon.Place.Top += row * PanelPitch;
     icon.Place.Left += (column - 1) * PanelPitch;
-    icon.Picture = FaceOf(key);
+    icon.Picture = CellOfKey(key);
     icon.Visible = true;
 }
 
@@ -153,7 +153,7 @@ void RemoveKey(int index) {
         const auto next = BehindLine(kept, at);
         const auto key = kept.substr(at, next - at - LineEnd.size());
         AppendKey(key);
-        Attempt([&] { frmConfigToolbox.cmdButton[icon].Picture = FaceOf(key); });
+        Attempt([&] { frmConfigToolbox.cmdButton[icon].Picture = CellOfKey(key); });
         at = next;
     }
     Attempt([] { frmConfigToolbox.cmdButton.Unload(frmConfigToolbox.Count); });

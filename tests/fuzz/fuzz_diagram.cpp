@@ -134,15 +134,15 @@ void Compile(const CyclicDesktop& screen, int document) {
 /// mention. False when a text or a link can't go through a file.
 bool AsSaved(int document, std::map<int, Box>& saved) {
     std::map<int, int> order;
-    const auto placeOf = [&](int number) {
+    const auto numberOf = [&](int number) {
         return order.try_emplace(number, static_cast<int>(order.size()) + 1).first->second;
     };
     bool fits = true;
     for (int i = 1; i < NextBox; ++i) {
         const Box& box = Boxes[i];
         if (box.BoxDocument != document) continue;
-        const int place = placeOf(i);
-        saved[place] = Relinked(box, 1, placeOf);
+        const int place = numberOf(i);
+        saved[place] = Relinked(box, 1, numberOf);
         fits &= (box.BoxType + box.BoxText).find_first_of("~\r\n") == std::string::npos;
     }
     // A number that no box of the document has is a link that leads out of it.

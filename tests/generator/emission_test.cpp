@@ -90,7 +90,7 @@ TEST_F(EmissionTest, KeyboardInputKeepsTheAnswer) {
                                      "Quorvane: box4|Enter the data devided by spaces|7 8"}));
 }
 
-TEST_F(EmissionTest, FeedersTakeThePlaceOfInputWords) {
+TEST_F(EmissionTest, FeedersReplaceInputWords) {
     for (const auto& row : ReadTable("generator/filters.tsv")) {
         for (const auto& key : Split(row[0], '|')) {
             // Behind a dummy input failures are fatal, behind a cancelled file input ignored.
