@@ -8,7 +8,7 @@
 #include <QMdiSubWindow>
 #include <QMouseEvent>
 #include <QTemporaryDir>
-#include <QTimer>
+#include <QWindow>
 #include <algorithm>
 #include <cstdio>
 #include <fstream>
@@ -149,13 +149,13 @@ int main(int argc, char** argv) {
 
     QTemporaryDir folder;
     QDir::setCurrent(folder.path());
-    QFile::copy(QUORVANE_SOURCE_DIR "/tests/fuzz/corpus/settings/whole.ini", "quorvane.ini");
-    QFile::copy(QUORVANE_SOURCE_DIR "/tests/fuzz/corpus/toolbox/thirty.tlb", "default.tlb");
+    std::ofstream("quorvane.ini") << "[Prefrences]\r\nShow Toolbox=1\r\n"
+                                     "Default Toolbox=default.tlb\r\nToolbox Size=3X3\r\n";
     FrameView frame;
-    StartProgram();
+    Dispatch(StartProgram);
     frame.show();
-    QTimer::singleShot(0, &frame, [] { QCoreApplication::exit(); });
-    QApplication::exec();
+    while (!frame.windowHandle()->isExposed()) QCoreApplication::processEvents();
+    QCoreApplication::processEvents();
     Report("end of the splash to the frame's first answer", Milliseconds(screen.SinceSplash), 150,
            "ms");
     std::printf("\n");
