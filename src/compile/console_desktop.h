@@ -37,6 +37,7 @@ struct ConsoleDesktop : Desktop {
     void LinkOpen() override {}
     void LinkExecute(const std::string& script) override { WriteSent(script); }
     std::string LinkRequest() override { return ""; }
+    std::string LinkFinish() override { return ""; }
     void StartMatlab() override {}
     /// The command line remembers nothing from run to run.
     std::string ReadStore(const std::string&, const std::string&) override { return ""; }

@@ -6,7 +6,7 @@
 
 #include "diagram/worksheet.h"
 #include "generator/run.h"
-#include "platform/controls.h"
+#include "platform/form.h"
 
 namespace quorvane {
 
@@ -18,9 +18,13 @@ struct LinkBox {
     std::string LinkItem;
 };
 
-/// The window that gathers what was sent to MATLAB and what it answered.
+/// The window that gathers what was sent to MATLAB and what it answered. It stays beside the
+/// worksheets and is no dialog.
 struct TextResultsForm {
-    TextBox txt;
+    FormState Form = {.Caption = "Matlab Text Results"};
+    TextBox txt;     ///< The log: each script that was sent, and what was printed for it
+    Label lblState;  ///< What the link is waiting for, "" while it waits for nothing
+    Button cmdOK = {.Caption = "OK"};
     LinkBox Sender;
     LinkBox Receiver;
 };
@@ -28,6 +32,22 @@ extern TextResultsForm frmTextResults;
 
 /// Compiles the worksheet to the clipboard. A refused or aborted run leaves an empty one.
 void mnuExeDDE_Click(Worksheet& sheet);
+
+/// Asks for a file, compiles the worksheet and writes the script to the file. A failing write is
+/// silent.
+void mnuExeFile_Click(Worksheet& sheet);
+
+/// Makes a script a function of the file's name: the name loses its extension, in the path too, and
+/// the script gets its head and end. A path without a folder gets no head.
+std::string AddFunctionHeader(std::string& path, const std::string& script);
+
+/// Compiles the worksheet into a running MATLAB, box by box, with the window of its answers open.
+void mnuEXEMatlab_Click(Worksheet& sheet);
+
+/// Empties the log. A run into an open window goes on behind the log of the one before.
+void frmTextResults_Load();
+/// Also what closing the window does.
+void frmTextResults_cmdOK_Click();
 
 /// The first plot of a run: its lines become one, behind the commands that make MATLAB ready to
 /// draw. Of the line ends, those up to two characters before the end as it stood are folded.

@@ -52,16 +52,22 @@ struct Desktop {
     virtual void PaintNow() = 0;
     /// Hands a command to the help viewer: 3 contents, 4 help on help, 261 search, 2 quit.
     virtual void Help(const std::string& file, int command) = 0;
-    /// Starts a program that goes on beside this one, minimised; error 53 when it can't be started.
+    /// Starts MATLAB or Octave, without a window of its own, as the far end of the link. It ends
+    /// with this program. Error 53 when it can't be started.
     virtual void StartProcess(const std::string& path) = 0;
     /// Ends the program once the running handler has returned.
     virtual void EndProgram() = 0;
 
     /// The link to a running MATLAB. Opening it or executing raises error 282 when nothing answers.
     virtual void LinkOpen() = 0;
+    /// Runs a script to its end. Parts of a block ("for" without its "end") are kept until the
+    /// script that closes it has come, and then run as one.
     virtual void LinkExecute(const std::string& script) = 0;
-    /// What was printed since the last execute.
+    /// What was printed by the last execute, "" where it only kept a part.
     virtual std::string LinkRequest() = 0;
+    /// Ends a run: gives MATLAB what is still kept, for a block that was never closed, and returns
+    /// what it says to that; "" when there is nothing.
+    virtual std::string LinkFinish() = 0;
     /// Runs the command "Start Matlab".
     virtual void StartMatlab() = 0;
 

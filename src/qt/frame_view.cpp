@@ -12,6 +12,7 @@
 #include "files/close_document.h"
 #include "qt/dispatch.h"
 #include "qt/form_view.h"
+#include "qt/results_view.h"
 #include "qt/splash_view.h"
 #include "qt/toolbox_view.h"
 #include "qt/worksheet_view.h"
@@ -60,6 +61,7 @@ FrameView::FrameView() {
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setCentralWidget(area_);
     toolbox_ = new ToolboxView(this);
+    results_ = new ResultsView(this);
     splash_ = std::make_unique<SplashView>();
     frameMenus_ = MakeFrameMenus(this);
     documentMenus_ = MakeDocumentMenus(this);
@@ -114,6 +116,7 @@ void FrameView::Refresh() {
     ShowMenus();
     splash_->Refresh();
     toolbox_->Refresh();
+    results_->Refresh();
     RefreshForms();
 }
 

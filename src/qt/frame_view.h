@@ -13,6 +13,7 @@ class QMdiSubWindow;
 namespace quorvane {
 
 class SplashView;
+class ResultsView;
 class ToolboxView;
 class WorksheetView;
 
@@ -41,6 +42,7 @@ private:
 
     QMdiArea* area_;
     ToolboxView* toolbox_;
+    ResultsView* results_ = nullptr;
     std::unique_ptr<SplashView> splash_;
     MenuSet frameMenus_;
     MenuSet documentMenus_;

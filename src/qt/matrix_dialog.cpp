@@ -75,7 +75,8 @@ MatrixDialog::MatrixDialog(QWidget* parent) : QDialog(parent) {
         Dispatch(frmMatrix_cmdOK_Click);
         accept();
     });
-    connect(grid_, &QTableWidget::cellClicked, this, [this](int row, int column) {
+    connect(grid_, &QTableWidget::currentCellChanged, this, [this](int row, int column) {
+        if (row < 0 || column < 0) return;
         frmMatrix.grid.Row = row + 1;
         frmMatrix.grid.Col = column + 1;
         Refresh();

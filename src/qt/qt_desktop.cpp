@@ -7,11 +7,11 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QMessageBox>
-#include <QProcess>
 #include <QSettings>
 #include <QThread>
 #include <QTime>
 
+#include "matlab_link/start_matlab.h"
 #include "platform/runtime_error.h"
 #include "qt/config_toolbox_view.h"
 #include "qt/dispatch.h"
@@ -49,7 +49,7 @@ constexpr IconRowQt icons[] = {
 struct ButtonsRowQt {
     Buttons Choice;
     QMessageBox::StandardButtons Shown;
-    QMessageBox::StandardButton Escape;  ///< NoButton: Escape doesn't answer
+    QMessageBox::StandardButton Escape;  ///< What Escape answers
 };
 const ButtonsRowQt buttonSets[] = {
     {Buttons::Ok, QMessageBox::Ok, QMessageBox::Ok},
@@ -94,9 +94,14 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
     }
     const auto filters = NameFilters(filter);
     dialog.setNameFilters(filters);
-    // A name typed without an ending gets that of the first filter.
-    const auto ending = ToScreen(filter).section('|', 1, 1).section("*.", 1);
-    if (mode == QFileDialog::AcceptSave) dialog.setDefaultSuffix(ending);
+    // A name typed without an ending gets that of the filter, if it has one.
+    const auto takeEnding = [&dialog](const QString& chosen) {
+        dialog.setDefaultSuffix(chosen.section("(*.", 1).remove(')'));
+    };
+    if (mode == QFileDialog::AcceptSave) {
+        takeEnding(filters.value(0));
+        QObject::connect(&dialog, &QFileDialog::filterSelected, takeEnding);
+    }
     if (!fileName.empty()) dialog.selectFile(ToScreen(fileName));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         throw RuntimeError(Cancelled);
@@ -159,6 +164,7 @@ std::int32_t QtDesktop::ColorDialog(std::int32_t start) {
 }
 
 void QtDesktop::ShowModal(std::string_view name) {
+    RefreshScreen();
     if (name == "frmPageView") {
         PageViewDialog(Parent()).exec();
         return;
@@ -202,17 +208,19 @@ void QtDesktop::PaintNow() {
 
 void QtDesktop::Help(const std::string& file, int command) { RunHelpCommand(file, command); }
 
-void QtDesktop::StartProcess(const std::string& path) {
-    if (!QProcess::startDetached(ToScreen(path), {})) throw RuntimeError(53);
-}
+void QtDesktop::StartProcess(const std::string& path) { matlab_.Start(ToScreen(path)); }
 
 // Not quit(): that would ask the windows once more, and the frame closes by its own rules.
 void QtDesktop::EndProgram() { QCoreApplication::exit(0); }
 
-void QtDesktop::LinkOpen() { throw RuntimeError(NoApplicationAnswered); }
-void QtDesktop::LinkExecute(const std::string&) { throw RuntimeError(NoApplicationAnswered); }
-std::string QtDesktop::LinkRequest() { return ""; }
-void QtDesktop::StartMatlab() {}
+void QtDesktop::LinkOpen() {
+    if (!matlab_.IsRunning()) throw RuntimeError(NoApplicationAnswered);
+}
+
+void QtDesktop::LinkExecute(const std::string& script) { matlab_.Execute(script); }
+std::string QtDesktop::LinkRequest() { return matlab_.TakeAnswer(); }
+std::string QtDesktop::LinkFinish() { return matlab_.Finish(); }
+void QtDesktop::StartMatlab() { mnuFileStartMatlab_Click(); }
 
 std::string QtDesktop::ReadStore(const std::string& section, const std::string& key) {
     return ToCore(QSettings().value(StoreKey(section, key)).toString());

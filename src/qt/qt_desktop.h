@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/desktop.h"
+#include "qt/matlab_process.h"
 
 namespace quorvane {
 
@@ -25,12 +26,16 @@ struct QtDesktop : Desktop {
     void LinkOpen() override;
     void LinkExecute(const std::string& script) override;
     std::string LinkRequest() override;
+    std::string LinkFinish() override;
     void StartMatlab() override;
     std::string ReadStore(const std::string& section, const std::string& key) override;
     void WriteStore(const std::string& section, const std::string& key,
                     const std::string& value) override;
     std::vector<std::pair<std::string, std::string>> ReadStoreSection(
         const std::string& section) override;
+
+private:
+    MatlabProcess matlab_;
 };
 
 }  // namespace quorvane

@@ -38,6 +38,7 @@ struct ScriptedDesktop : Desktop {
     std::string Reply;              ///< What each request gets
     std::deque<int> LinkFailures;   ///< Error numbers of the next openings of the link; 0 for none
     int MatlabStarts = 0;
+    std::string Kept;  ///< What MATLAB says at the end of a run
     std::map<std::string, std::map<std::string, std::string>> Store;
 
     Answer MsgBox(const Message& message) override {
@@ -91,6 +92,7 @@ struct ScriptedDesktop : Desktop {
     }
     void LinkExecute(const std::string& script) override { Sent.push_back(script); }
     std::string LinkRequest() override { return Reply; }
+    std::string LinkFinish() override { return Kept; }
     void StartMatlab() override { ++MatlabStarts; }
     std::string ReadStore(const std::string& section, const std::string& key) override {
         return Store[section][key];

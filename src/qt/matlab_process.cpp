@@ -1,0 +1,337 @@
+// SPDX-License-Identifier: MIT
+#include "qt/matlab_process.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QKeyEvent>
+#include <QRandomGenerator>
+#include <QTimer>
+#include <algorithm>
+#include <csignal>
+
+#ifdef Q_OS_LINUX
+#include <sys/prctl.h>
+#include <unistd.h>
+#endif
+
+#include "generator/output_targets.h"
+#include "matlab_link/script_blocks.h"
+#include "platform/desktop.h"
+#include "platform/runtime_error.h"
+#include "qt/dispatch.h"
+#include "qt/screen_units.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr int FileNotFound = 53;
+constexpr int NoApplicationAnswered = 282;
+constexpr int TickMilliseconds = 200;
+constexpr int ShowMilliseconds = 100;
+constexpr int BreakSeconds = 5;
+constexpr qsizetype AnswerLimit = 8 << 20;
+
+const char* const functions[] = {"run", "ask", "input", "pause", "keyboard"};
+const char* const octaveFunctions[] = {"system_dependent"};
+
+/// What an engine is started with, by the beginning of its file name.
+struct EngineRow {
+    const char* Name;
+    QStringList Arguments;
+};
+const QString octaveSetUp = "PS1('');PS2('');more off;warning('off','Octave:shadowed-function');";
+const EngineRow engines[] = {
+    {"octave",
+     {"--no-gui", "--quiet", "--no-init-file", "--no-history", "--interactive", "--eval",
+      octaveSetUp, "--persist"}},
+    {"", {"-nodesktop", "-nosplash"}},
+};
+
+/// With a screen, an Octave that draws by Qt is preferred to the one without windows: its figures
+/// stay alive between the boxes.
+QString WithFigures(const QString& program) {
+    const QFileInfo file(program);
+    const QFileInfo full(file.dir().filePath("octave"));
+    const bool hasScreen = QGuiApplication::platformName() != "offscreen";
+    return hasScreen && file.fileName() == "octave-cli" && full.isExecutable() ? full.filePath()
+                                                                               : program;
+}
+
+void Signal(const QProcess& process, int signal) {
+#ifdef Q_OS_UNIX
+    if (process.processId() > 0) ::kill(static_cast<pid_t>(-process.processId()), signal);
+#else
+    Q_UNUSED(process);
+    Q_UNUSED(signal);
+#endif
+}
+
+QByteArray Quoted(const QString& text) {
+    return "'" + QString(text).replace("'", "''").toUtf8() + "'";
+}
+
+bool IsUserInput(QEvent::Type type) {
+    static const QEvent::Type kinds[] = {QEvent::KeyPress,
+                                         QEvent::KeyRelease,
+                                         QEvent::ShortcutOverride,
+                                         QEvent::Shortcut,
+                                         QEvent::MouseButtonPress,
+                                         QEvent::MouseButtonRelease,
+                                         QEvent::MouseButtonDblClick,
+                                         QEvent::MouseMove,
+                                         QEvent::Wheel,
+                                         QEvent::ContextMenu,
+                                         QEvent::Close,
+                                         QEvent::DragEnter,
+                                         QEvent::Drop,
+                                         QEvent::TouchBegin,
+                                         QEvent::TabletPress,
+                                         QEvent::InputMethod};
+    return std::find(std::begin(kinds), std::end(kinds), type) != std::end(kinds);
+}
+
+void ShowState(const QString& text) {
+    frmTextResults.lblState.Caption = ToCore(text);
+    RefreshScreen();
+}
+
+}  // namespace
+
+MatlabProcess::MatlabProcess() {
+    process_.setProcessChannelMode(QProcess::MergedChannels);
+#ifdef Q_OS_LINUX
+    const auto parent = ::getpid();
+    process_.setChildProcessModifier([parent] {
+        ::setsid();
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (::getppid() != parent) ::_exit(1);
+    });
+#endif
+    connect(&process_, &QProcess::readyRead, this, &MatlabProcess::Read);
+    connect(&process_, &QProcess::finished, this, &MatlabProcess::Ended);
+    shown_.start();
+}
+
+MatlabProcess::~MatlabProcess() { Stop(); }
+
+/// An idle engine ends when its input does; what is left of its group then is killed.
+void MatlabProcess::Stop() {
+    if (!IsRunning()) return;
+    process_.closeWriteChannel();
+    process_.waitForFinished(500);
+    Signal(process_, SIGKILL);
+    process_.kill();
+    process_.waitForFinished();
+}
+
+bool MatlabProcess::IsRunning() const { return process_.state() == QProcess::Running; }
+
+QString MatlabProcess::PathOf(const QString& name) const { return folder_->filePath(name + ".m"); }
+
+void MatlabProcess::WriteFunctions(bool isOctave) {
+    QStringList names(std::begin(functions), std::end(functions));
+    if (isOctave) names.append(QStringList(std::begin(octaveFunctions), std::end(octaveFunctions)));
+    for (const auto& name : names) {
+        QFile source(":/engine/" + name + ".m");
+        source.open(QFile::ReadOnly);
+        auto text = source.readAll();
+        text.replace("TOKEN", token_).replace("RUN", token_ + "run").replace("ASK", token_ + "ask");
+        const bool isOurs = name == "run" || name == "ask";
+        QFile file(PathOf(isOurs ? token_ + name : name));
+        if (!file.open(QFile::WriteOnly) || file.write(text) != text.size()) {
+            throw RuntimeError(FileNotFound);
+        }
+    }
+}
+
+void MatlabProcess::Start(const QString& chosen) {
+    Stop();
+    const auto program = WithFigures(chosen);
+    folder_ = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/quorvane-XXXXXX");
+    token_ = "q" + QByteArray::number(QRandomGenerator::system()->generate64(), 16);
+    kept_.clear();
+    const auto name = QFileInfo(program).fileName();
+    const auto* row = std::begin(engines);
+    while (!name.startsWith(row->Name)) ++row;
+    WriteFunctions(row == std::begin(engines));
+    process_.setWorkingDirectory(QDir::homePath());
+    process_.start(program, row->Arguments);
+    if (!process_.waitForStarted()) throw RuntimeError(FileNotFound);
+    process_.write("addpath(" + Quoted(folder_->path()) + ");\n");
+    Run("");
+    answer_.clear();
+    if (!IsRunning()) throw RuntimeError(FileNotFound);
+}
+
+void MatlabProcess::Execute(const std::string& script) {
+    if (!IsRunning()) throw RuntimeError(NoApplicationAnswered);
+    answer_.clear();
+    kept_ += script;
+    if (!BlocksAreClosed(kept_)) return;
+    const auto whole = std::exchange(kept_, "");
+    if (whole.find_first_not_of(" \r\n") != std::string::npos) Run(whole);
+    if (shown_.elapsed() < ShowMilliseconds) return;
+    RefreshScreen();
+    shown_.start();
+}
+
+std::string MatlabProcess::TakeAnswer() {
+    return std::exchange(answer_, QByteArray()).toStdString();
+}
+
+std::string MatlabProcess::Finish() {
+    const auto rest = std::exchange(kept_, "");
+    if (rest.empty() || !IsRunning()) return "";
+    Run(rest);
+    return TakeAnswer();
+}
+
+/// The file has another name each time, since an engine may not look again at one that it knows.
+void MatlabProcess::Run(const std::string& script) {
+    const auto id = QByteArray::number(++job_);
+    QFile file(PathOf("step" + id));
+    if (!file.open(QFile::WriteOnly)) throw RuntimeError(NoApplicationAnswered);
+    file.write(script.data(), static_cast<qsizetype>(script.size()));
+    file.close();
+    received_.clear();
+    looked_ = leftOut_ = 0;
+    process_.write(token_ + "run(" + Quoted(file.fileName()) + ",'" + id + "');\n");
+    Wait();
+    file.remove();
+}
+
+void MatlabProcess::Wait() {
+    QEventLoop loop;
+    QTimer clock;
+    connect(&clock, &QTimer::timeout, this, &MatlabProcess::Tick);
+    clock.start(TickMilliseconds);
+    running_.start();
+    stopping_.invalidate();
+    waiting_ = &loop;
+    qApp->installEventFilter(this);
+    if (IsRunning()) loop.exec();
+    qApp->removeEventFilter(this);
+    waiting_ = nullptr;
+    if (!frmTextResults.lblState.Caption.empty()) ShowState("");
+}
+
+void MatlabProcess::Read() {
+    received_ += process_.readAll();
+    while (waiting_ && TakeMark()) {
+    }
+    if (waiting_) Limit();
+}
+
+/// Looks for the next mark and does what it asks for. False when there is none, or not all of it.
+bool MatlabProcess::TakeMark() {
+    const auto start = '\1' + token_;
+    const auto at = received_.indexOf(start, looked_);
+    if (at < 0) {
+        looked_ = std::max<qsizetype>(0, received_.size() - start.size());
+        return false;
+    }
+    looked_ = at;
+    const auto behind = at + start.size();
+    const auto end = received_.indexOf('\1', behind);
+    if (end < behind + 2) return false;
+    const char kind = received_[behind];
+    const auto text = received_.mid(behind + 2, end - behind - 2);
+    received_.remove(at, end + 1 - at);
+    const bool isOfJob = text == QByteArray::number(job_);
+    if (kind == 'i' || kind == 'p') {
+        Ask(kind, text);
+    } else if (kind == 'b' && isOfJob) {
+        received_.remove(0, at);
+        looked_ = 0;
+    } else if (kind == 'e' && isOfJob) {
+        // The mark brought a line end of its own.
+        received_.truncate(std::max<qsizetype>(0, at - 1));
+        EndJob();
+        return false;
+    }
+    return true;
+}
+
+/// What the user answers stands behind the question, as on a terminal.
+void MatlabProcess::Ask(char kind, const QByteArray& question) {
+    asking_ = true;
+    QByteArray line;
+    if (kind == 'i') {
+        const auto text = question.toStdString();
+        line = QByteArray::fromStdString(desktop->InputBox(text, "Quorvane", ""));
+        received_.insert(looked_, question + line + '\n');
+    } else {
+        Tell("The script waits. OK goes on.", Icon::Information);
+    }
+    asking_ = false;
+    process_.write(line.replace('\n', ' ') + '\n');
+    running_.start();
+}
+
+/// A flood is kept up to its limit and counted from there on.
+void MatlabProcess::Limit() {
+    const auto excess = looked_ - AnswerLimit;
+    if (excess <= 0) return;
+    received_.remove(AnswerLimit, excess);
+    looked_ = AnswerLimit;
+    leftOut_ += excess;
+}
+
+void MatlabProcess::EndJob() {
+    answer_ = received_;
+    if (leftOut_ > 0) answer_ += "\n... " + QByteArray::number(leftOut_) + " bytes more\n";
+    if (stopping_.isValid()) answer_ += "Stopped.\n";
+    waiting_->quit();
+    waiting_ = nullptr;
+}
+
+void MatlabProcess::Ended() {
+    if (!waiting_) return;
+    received_ += process_.readAll();
+    while (waiting_ && TakeMark()) {
+    }
+    if (!waiting_) return;
+    const bool crashed = process_.exitStatus() == QProcess::CrashExit;
+    const auto code = QByteArray::number(process_.exitCode());
+    EndJob();
+    answer_ += crashed ? "Matlab has been ended by signal " + code + ".\n"
+                       : "Matlab has ended with exit code " + code + ".\n";
+}
+
+void MatlabProcess::Tick() {
+    if (asking_) return;
+    if (!stopping_.isValid()) {
+        if (running_.elapsed() < 2 * TickMilliseconds) return;
+        return ShowState("Matlab is working. Escape stops it.");
+    }
+    const auto seconds = static_cast<int>(stopping_.elapsed() / 1000);
+    if (seconds >= BreakSeconds) return Signal(process_, SIGKILL);
+    if (seconds >= breaks_) Interrupt();
+    ShowState(QString("Stopping. Matlab is ended by force in %1 s.").arg(BreakSeconds - seconds));
+}
+
+/// A break while the engine waits for a line takes effect with the next line. Where the first one
+/// doesn't help, the engine may stand in its debugger.
+void MatlabProcess::Interrupt() {
+    Signal(process_, SIGINT);
+    process_.write(breaks_++ == 0 ? "\n" : "dbquit\n");
+}
+
+bool MatlabProcess::eventFilter(QObject*, QEvent* event) {
+    if (asking_ || !IsUserInput(event->type())) return false;
+    if (event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape && !stopping_.isValid()) {
+        stopping_.start();
+        breaks_ = 0;
+        Interrupt();
+        Tick();
+    }
+    event->ignore();
+    return true;
+}
+
+}  // namespace quorvane

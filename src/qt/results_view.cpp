@@ -1,0 +1,79 @@
+// SPDX-License-Identifier: MIT
+#include "qt/results_view.h"
+
+#include <QCloseEvent>
+#include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScrollBar>
+
+#include "generator/output_targets.h"
+#include "qt/dispatch.h"
+#include "qt/screen_units.h"
+
+namespace quorvane {
+
+ResultsView::ResultsView(QWidget* frame) : QWidget(frame, Qt::Window) {
+    setObjectName("frmTextResults");
+    txt_ = new QPlainTextEdit;
+    txt_->setObjectName("txt");
+    txt_->setAccessibleName("Matlab Text Results");
+    txt_->setReadOnly(true);
+    txt_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    txt_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    txt_->setUndoRedoEnabled(false);
+    lblState_ = new QLabel;
+    lblState_->setObjectName("lblState");
+    auto* cmdOK = new QPushButton;
+    cmdOK->setObjectName("cmdOK");
+    cmdOK->setText(ToScreen(frmTextResults.cmdOK.Caption));
+    cmdOK->setAutoDefault(true);
+    connect(cmdOK, &QPushButton::clicked, this, [] { Dispatch(frmTextResults_cmdOK_Click); });
+
+    auto* pnl = new QWidget(this);
+    pnl->setObjectName("pnl");
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(lblState_, 1);
+    foot->addWidget(cmdOK);
+    auto* rows = new QVBoxLayout(pnl);
+    rows->addWidget(txt_);
+    rows->addLayout(foot);
+    auto* all = new QVBoxLayout(this);
+    all->setContentsMargins(0, 0, 0, 0);
+    all->addWidget(pnl);
+    resize(560, 420);
+}
+
+void ResultsView::Refresh() {
+    const auto& form = frmTextResults;
+    setWindowTitle(ToScreen(form.Form.Caption));
+    lblState_->setText(ToScreen(form.lblState.Caption));
+    Grow();
+    if (isVisible() != form.Form.Visible) setVisible(form.Form.Visible);
+}
+
+/// The end of the log stays in sight, unless the user has gone up in it.
+void ResultsView::Grow() {
+    const auto& log = frmTextResults.txt.Text;
+    if (log.size() == shown_.size() && log == shown_) return;
+    if (!log.starts_with(shown_)) {
+        txt_->clear();
+        shown_.clear();
+    }
+    auto* bar = txt_->verticalScrollBar();
+    const bool atEnd = bar->value() == bar->maximum();
+    QTextCursor end(txt_->document());
+    end.movePosition(QTextCursor::End);
+    end.insertText(ToScreen(std::string_view(log).substr(shown_.size())));
+    shown_ = log;
+    if (atEnd) bar->setValue(bar->maximum());
+}
+
+void ResultsView::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    Dispatch(frmTextResults_cmdOK_Click);
+}
+
+}  // namespace quorvane

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPlainTextEdit;
+
+namespace quorvane {
+
+/// The window of what was sent to MATLAB and what it answered, beside the frame. The log grows at
+/// its end, so that only what is new is put into the text.
+class ResultsView : public QWidget {
+public:
+    explicit ResultsView(QWidget* frame);
+    void Refresh();
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+
+private:
+    void Grow();
+
+    QPlainTextEdit* txt_;
+    QLabel* lblState_;
+    std::string shown_;  ///< The log as the text holds it
+};
+
+}  // namespace quorvane
