@@ -32,6 +32,7 @@ constexpr int FileNotFound = 53;
 constexpr int NoApplicationAnswered = 282;
 constexpr int TickMilliseconds = 200;
 constexpr int ShowMilliseconds = 100;
+constexpr int GoingMilliseconds = 3000;
 constexpr int BreakSeconds = 5;
 constexpr qsizetype AnswerLimit = 8 << 20;
 
@@ -161,7 +162,7 @@ void MatlabProcess::Start(const QString& chosen) {
     process_.setWorkingDirectory(QDir::homePath());
     process_.start(program, row->Arguments);
     if (!process_.waitForStarted()) throw RuntimeError(FileNotFound);
-    process_.write("addpath(" + Quoted(folder_->path()) + ");\n");
+    process_.write(AddFolder() + '\n');
     Run("");
     answer_.clear();
     if (!IsRunning()) throw RuntimeError(FileNotFound);
@@ -190,6 +191,9 @@ std::string MatlabProcess::Finish() {
     return TakeAnswer();
 }
 
+/// The functions of ours are found again also where a script took their folder from the path.
+QByteArray MatlabProcess::AddFolder() const { return "addpath(" + Quoted(folder_->path()) + ");"; }
+
 /// The file has another name each time, since an engine may not look again at one that it knows.
 void MatlabProcess::Run(const std::string& script) {
     const auto id = QByteArray::number(++job_);
@@ -199,7 +203,8 @@ void MatlabProcess::Run(const std::string& script) {
     file.close();
     received_.clear();
     looked_ = leftOut_ = 0;
-    process_.write(token_ + "run(" + Quoted(file.fileName()) + ",'" + id + "');\n");
+    const auto call = token_ + "run(" + Quoted(file.fileName()) + ",'" + id + "');";
+    process_.write("try," + call + "catch," + AddFolder() + call + "end\n");
     Wait();
     file.remove();
 }
@@ -240,20 +245,29 @@ bool MatlabProcess::TakeMark() {
     if (end < behind + 2) return false;
     const char kind = received_[behind];
     const auto text = received_.mid(behind + 2, end - behind - 2);
-    received_.remove(at, end + 1 - at);
-    const bool isOfJob = text == QByteArray::number(job_);
-    if (kind == 'i' || kind == 'p') {
+    const bool isQuestion = kind == 'i' || kind == 'p';
+    // But for a question, a mark brings a line end of its own.
+    looked_ = isQuestion ? at : std::max<qsizetype>(0, at - 1);
+    received_.remove(looked_, end + 1 - looked_);
+    if (isQuestion) {
         Ask(kind, text);
-    } else if (kind == 'b' && isOfJob) {
-        received_.remove(0, at);
-        looked_ = 0;
-    } else if (kind == 'e' && isOfJob) {
-        // The mark brought a line end of its own.
-        received_.truncate(std::max<qsizetype>(0, at - 1));
-        EndJob();
-        return false;
+    } else if (text == QByteArray::number(job_)) {
+        TakeMarkOfJob(kind);
     }
     return true;
+}
+
+/// A script that neither ended nor was broken off has ended the engine, which goes in a moment.
+void MatlabProcess::TakeMarkOfJob(char kind) {
+    if (kind == 'b') {
+        received_.remove(0, looked_);
+        looked_ = 0;
+    } else if (kind == 'e' || stopping_.isValid()) {
+        received_.truncate(looked_);
+        EndJob();
+    } else {
+        QTimer::singleShot(GoingMilliseconds, waiting_, [this] { EndJob(); });
+    }
 }
 
 /// What the user answers stands behind the question, as on a terminal.

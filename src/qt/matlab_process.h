@@ -30,6 +30,7 @@ public:
     /// Runs a script, or keeps it while a block that began in it or before it is open. Error 282
     /// when no engine is running.
     void Execute(const std::string& script);
+    bool HasAnswer() const { return !answer_.isEmpty(); }
     /// What the last script printed, then "".
     std::string TakeAnswer();
     /// Runs what is still kept, and returns what the engine says to it.
@@ -42,10 +43,12 @@ private:
     void Stop();
     void WriteFunctions(bool isOctave);
     QString PathOf(const QString& name) const;
+    QByteArray AddFolder() const;
     void Run(const std::string& script);
     void Wait();
     void Read();
     bool TakeMark();
+    void TakeMarkOfJob(char kind);
     void Ask(char kind, const QByteArray& question);
     void EndJob();
     void Ended();

@@ -213,8 +213,9 @@ void QtDesktop::StartProcess(const std::string& path) { matlab_.Start(ToScreen(p
 // Not quit(): that would ask the windows once more, and the frame closes by its own rules.
 void QtDesktop::EndProgram() { QCoreApplication::exit(0); }
 
+/// The last words of an engine that has ended can still be fetched.
 void QtDesktop::LinkOpen() {
-    if (!matlab_.IsRunning()) throw RuntimeError(NoApplicationAnswered);
+    if (!matlab_.IsRunning() && !matlab_.HasAnswer()) throw RuntimeError(NoApplicationAnswered);
 }
 
 void QtDesktop::LinkExecute(const std::string& script) { matlab_.Execute(script); }
