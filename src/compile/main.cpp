@@ -6,11 +6,14 @@
 #include <vector>
 
 #include "compile/console_desktop.h"
+#include "compile/picture.h"
 #include "diagram/worksheet.h"
 #include "files/document_file.h"
 #include "files/settings.h"
+#include "generator/check_document.h"
 #include "generator/compile_document.h"
 #include "platform/file_table.h"
+#include "platform/numbers.h"
 #include "platform/runtime_error.h"
 #include "quorvane/version.h"
 
@@ -19,6 +22,7 @@ using namespace quorvane;
 namespace {
 
 enum ExitCode { RunFinished = 0, RunBrokenOff = 1, NothingCompiled = 2, RunFailed = 3 };
+enum CheckCode { NothingFound = 0, SomethingFound = 1 };
 
 struct Options {
     std::string Diagram;
@@ -26,6 +30,8 @@ struct Options {
     std::string AnswersFile;
     int Mode = 1;
     bool StartUnwired = false;
+    bool Check = false;
+    std::string Picture;  ///< "" for none
 };
 
 int Refuse(const std::string& what) {
@@ -73,14 +79,15 @@ std::string SentBlock(const std::string& text) {
     return text + (endsItsLine ? "--\r\n" : "\r\n--\r\n");
 }
 
-bool WriteOutput(const Options& options, const std::string& text) {
-    if (options.Output.empty()) {
+/// Writes a text to the file at `path`, or to standard output for "".
+bool WriteOutput(const std::string& path, const std::string& text) {
+    if (path.empty()) {
         return std::fwrite(text.data(), 1, text.size(), stdout) == text.size() &&
                std::fflush(stdout) == 0;
     }
     return Attempt([&] {
         const int number = FreeFile();
-        OpenForOutput(number, options.Output);
+        OpenForOutput(number, path);
         Print(number, text);
         CloseFile(number);
     });
@@ -89,7 +96,6 @@ bool WriteOutput(const Options& options, const std::string& text) {
 /// Compiles the loaded diagram; `output` takes the script, or with mode 0 what was sent.
 ExitCode Compile(ConsoleDesktop& console, const Options& options, std::string& output) {
     console.WriteSent = [&](const std::string& text) { output += SentBlock(text); };
-    frmPrefs.chkInput.Value = options.StartUnwired ? 1 : 0;
     try {
         output += CompileDocument(static_cast<std::int16_t>(options.Mode), Documents[1]->Tag);
     } catch (const RuntimeError& error) {
@@ -97,6 +103,31 @@ ExitCode Compile(ConsoleDesktop& console, const Options& options, std::string& o
         return RunFailed;
     }
     return lastRunEnd == RunEnd::Done ? RunFinished : RunBrokenOff;
+}
+
+/// A line for each thing that was found, and below it one with what to do.
+std::string FindingLines(const std::vector<Finding>& findings) {
+    std::string lines;
+    for (const auto& finding : findings) {
+        lines += finding.Box == 0
+                     ? std::string("diagram")
+                     : "box" + NumberText(finding.Box) + " (" + Escaped(finding.Type) + ")";
+        lines += ": " + Escaped(finding.Text) + ".\n    " + Escaped(finding.Advice) + ".\n";
+    }
+    return lines;
+}
+
+/// Draws and checks the loaded diagram, as asked for.
+int Review(const Options& options) {
+    if (!options.Picture.empty() && !WriteOutput(options.Picture, DocumentPicture(1))) {
+        return Refuse(options.Picture + ": The picture can't be written");
+    }
+    if (!options.Check) return NothingFound;
+    const auto findings = CheckDocument(1);
+    if (!WriteOutput("", FindingLines(findings))) {
+        return Refuse("standard output: The findings can't be written");
+    }
+    return findings.empty() ? NothingFound : SomethingFound;
 }
 
 int Run(const Options& options) {
@@ -112,10 +143,12 @@ int Run(const Options& options) {
     }
     std::string why;
     if (!LoadDiagram(console, options.Diagram, why)) return Refuse(why);
+    frmPrefs.chkInput.Value = options.StartUnwired ? 1 : 0;
+    if (options.Check || !options.Picture.empty()) return Review(options);
     std::string output;
     const auto code = Compile(console, options, output);
     const bool worthWriting = code == RunFinished || !output.empty();
-    if (worthWriting && !WriteOutput(options, output)) {
+    if (worthWriting && !WriteOutput(options.Output, output)) {
         return Refuse((options.Output.empty() ? "standard output" : options.Output) +
                       ": The script can't be written");
     }
@@ -128,14 +161,28 @@ int main(int argc, char** argv) {
     Options options;
     CLI::App app("Compiles a Quorvane diagram to MATLAB script.", "quorvane-compile");
     app.set_version_flag("--version", "quorvane-compile " QUORVANE_VERSION);
-    app.add_option("DIAGRAM", options.Diagram, "The diagram file (.qvm)")->required();
-    app.add_option("-o,--output", options.Output, "Write there instead of to standard output");
+    app.add_option("DIAGRAM", options.Diagram, "The diagram file (.qvm)")
+        ->required()
+        ->option_text(" ");
+    app.add_option("-o,--output", options.Output, "Write there instead of to standard output")
+        ->option_text("FILE");
     app.add_flag("--start-unwired", options.StartUnwired,
                  "Start at every box without arrows into it, too");
-    app.add_option("--answers", options.AnswersFile, "Answer the run's questions from this file");
+    app.add_option("--answers", options.AnswersFile, "Answer the run's questions from this file")
+        ->option_text("FILE");
     app.add_option("--mode", options.Mode,
                    "1 compiles to text (default), 0 as for MATLAB, text by text")
-        ->check(CLI::IsMember({0, 1}));
+        ->check(CLI::IsMember({0, 1}))
+        ->option_text("NUMBER");
+    auto* check = app.add_flag("--check", options.Check,
+                               "Don't compile: tell what would trouble a run, exit 1 if anything")
+                      ->option_text(" ");
+    auto* picture = app.add_option("--picture", options.Picture,
+                                   "Don't compile: draw the diagram into this file, as SVG")
+                        ->option_text("FILE");
+    for (const char* const compiling : {"--output", "--answers", "--mode"}) {
+        for (auto* const review : {check, picture}) review->excludes(app.get_option(compiling));
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {

@@ -21,7 +21,8 @@ extern std::int16_t SelectionTop;
 void StretchSelection(Worksheet& sheet, double X, double Y);
 
 /// Selects the boxes of this worksheet whose upper left corner lies inside the rectangle, not on
-/// its edge; none while it is hidden. Error 6 when its corner lies beyond 16 bits.
+/// its edge; none while it is hidden. SelectionLeft or SelectionTop stays as it was where the
+/// corner lies beyond 16 bits.
 void EndSelection(Worksheet& sheet);
 
 /// Moves the selection so that the corner of its rectangle lands at (X, Y). Boxes that aren't on

@@ -209,7 +209,7 @@ bool IsUntitled(const std::string& caption) { return caption.starts_with("Untitl
 bool AskForName(const std::string& caption, std::string& name) {
     const std::string preset = IsUntitled(caption) ? "" : caption;
     if (!Attempt([&] { name = desktop->SaveFileDialog(DocumentFilter, preset); })) return false;
-    return name != "*.qvm";
+    return FileNameOf(name) != "*.qvm";
 }
 
 }  // namespace

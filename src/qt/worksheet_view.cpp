@@ -52,6 +52,7 @@ WorksheetView::WorksheetView(int document) : document_(document) {
     surface_ = new SurfaceView(document, this);
     bubble_ = new QLabel(surface_);
     bubble_->setObjectName("txtboxname");
+    bubble_->setTextFormat(Qt::PlainText);
     bubble_->setAttribute(Qt::WA_TransparentForMouseEvents);
     bubble_->setStyleSheet(
         "background: #fffbe0; color: #202020; border: 1px solid #807840; padding: 1px 4px;");
@@ -80,6 +81,9 @@ void WorksheetView::MakeBars() {
     scrV_ = new QScrollBar(Qt::Vertical, this);
     scrV_->setObjectName("scrV");
     scrV_->setAccessibleName("Scroll up and down");
+    // A pull of the thumb counts once, where it ends: the sheet grows by one step at its end.
+    scrH_->setTracking(false);
+    scrV_->setTracking(false);
     corner_ = new QWidget(this);
     corner_->setObjectName("pctblank");
     connect(arrowPanel_, &QToolButton::clicked, this,
@@ -156,10 +160,12 @@ void WorksheetView::RefreshBoxes() {
 void WorksheetView::RefreshBubble() {
     const auto& bubble = Sheet().txtboxname;
     const auto text = ToScreen(bubble.Caption);
-    if (bubble.Visible && (bubble_->text() != text || !bubble_->isVisible())) {
+    const QPoint place(ToPixels(bubble.Left), ToPixels(bubble.Top));
+    if (bubble.Visible &&
+        (bubble_->text() != text || bubble_->pos() != place || !bubble_->isVisible())) {
         bubble_->setText(text);
         bubble_->adjustSize();
-        bubble_->move(ToPixels(bubble.Left), ToPixels(bubble.Top));
+        bubble_->move(place);
         bubble_->raise();
     }
     if (bubble_->isVisibleTo(surface_) != bubble.Visible) bubble_->setVisible(bubble.Visible);

@@ -4,8 +4,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
+#include <map>
+#include <regex>
 #include <set>
 
+#include "files/work_folder.h"
 #include "support/table_file.h"
 
 namespace quorvane::testing {
@@ -28,6 +32,23 @@ TEST(IconTableTest, AKeyMovesTheClipWindow) {
         EXPECT_EQ(Clip(), cell + 1) << row.back();
         EXPECT_EQ(icons.ClipX, cell % 15 * 32) << row.back();
         EXPECT_EQ(icons.ClipY, cell / 15 * 32) << row.back();
+    }
+}
+
+TEST(IconTableTest, EachCellHasAPictureThatIsOneOfItsOwnWithoutItsColours) {
+    // Comments, blanks and colours
+    const std::regex apart("<!--[^]*?-->|[ \t\r\n]|#[0-9a-fA-F]{6}");
+    std::map<std::string, int> drawings;
+    std::set<int> cells = {FallbackCell};
+    for (const auto& row : iconTable) cells.insert(row.Cell);
+    for (const int cell : cells) {
+        char name[32];
+        std::snprintf(name, sizeof name, "%03d.svg", cell);
+        const auto drawing = std::regex_replace(
+            ReadAll(std::string(QUORVANE_SOURCE_DIR "/resources/icons/") + name), apart, "");
+        EXPECT_NE(drawing, "") << name << " is missing";
+        const auto [same, isNew] = drawings.emplace(drawing, cell);
+        EXPECT_TRUE(isNew) << name << " looks like that of cell " << same->second;
     }
 }
 

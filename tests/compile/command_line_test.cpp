@@ -19,6 +19,7 @@ protected:
         WriteAll(folder / "good.qvm", "1\r\nConstant Input~3" + Links);
         WriteAll(folder / "silent.qvm", "1\r\nDummy Input~" + Links);
         WriteAll(folder / "refused.qvm", "1\r\nSin~" + Links);
+        WriteAll(folder / "unwired.qvm", "1\r\nSin~\r\n0~0~0~0~0~0~0~0~0~0~0~0~0\r\n0~0~\r\n\r\n");
         WriteAll(folder / "stalls.qvm", "1\r\nNo Such Input~" + Links);
         WriteAll(folder / "asks.qvm", "1\r\nKeyboard Input~0" + Links);
         WriteAll(folder / "fails.qvm",
@@ -67,7 +68,8 @@ TEST_F(CommandLine, HelpAndVersion) {
     const auto help = RunCompile(folder.Path, {"--help"});
     EXPECT_EQ(help.Exit, 0);
     EXPECT_EQ(help.Errors, "");
-    for (const char* const option : {"DIAGRAM", "-o", "--start-unwired", "--answers", "--mode"}) {
+    for (const char* const option :
+         {"DIAGRAM", "-o", "--start-unwired", "--answers", "--mode", "--check", "--picture"}) {
         EXPECT_NE(help.Output.find(option), std::string::npos) << option;
     }
     const auto version = RunCompile(folder.Path, {"--version"});

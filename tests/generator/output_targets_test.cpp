@@ -4,6 +4,7 @@
 #include <algorithm>
 
 #include "files/settings.h"
+#include "files/work_folder.h"
 #include "generator/generator_fixture.h"
 
 namespace quorvane::testing {
@@ -61,12 +62,80 @@ TEST_F(OutputTargetsTest, LinkAndLog) {
         EXPECT_DOUBLE_EQ(DocumentWindow(1).pnlResource.Value, 2 / 350.0 * 100);
         ExpectAtRest(gaveUpAtLast ? RunEnd::Aborted : RunEnd::Done);
         if (gaveUpAtLast) continue;
-        const auto& [txt, sender, receiver] = frmTextResults;
+        const auto& sender = frmTextResults.Sender;
+        const auto& receiver = frmTextResults.Receiver;
         EXPECT_EQ(sender.Text + receiver.Text, "");
         EXPECT_EQ(sender.LinkMode + receiver.LinkMode, 0);
         EXPECT_EQ(sender.LinkTopic + "|" + sender.LinkItem, "MATLAB|Engine|EngEvalString");
         EXPECT_EQ(receiver.LinkTopic + "|" + receiver.LinkItem, "MATLAB|Engine|EngStringResult");
     }
+}
+
+/// The name that is chosen, the answer to the offer of a header, the name of the file that is then
+/// there, and what stands in it around the script.
+struct FileRow {
+    const char* Chosen;
+    Answer Header;
+    const char* Written;
+    const char* Head;
+    const char* End;
+};
+const FileRow fileRows[] = {
+    {"Plain.m", Answer::No, "Plain.m", "", ""},
+    {"My Sum.m", Answer::Yes, "My Sum", "function my sum;\r\n", "end\r\n"},
+    {"two.parts.M", Answer::Yes, "two", "function two;\r\n", "end\r\n"},
+    {"bare", Answer::Yes, "bare", "function bare;\r\n", "end\r\n"},
+};
+
+TEST_F(OutputTargetsTest, Files) {
+    for (const auto& row : fileRows) {
+        SCOPED_TRACE(row.Chosen);
+        Restart();
+        Draw({{"Constant Input", "3"}});
+        const WorkFolder folder;
+        screen.Paths = {folder / row.Chosen};
+        screen.MessageAnswers = {row.Header};
+        mnuExeFile_Click(Sheet());
+        EXPECT_EQ(NamesIn(folder.Path), std::set<std::string>{row.Written});
+        EXPECT_EQ(ReadAll(folder / row.Written),
+                  std::string(row.Head) + "box1=3;\r\n" + row.End + "\r\n");
+        EXPECT_EQ(TakeTold(), "iDone !|?Do you want to add a function header ?");
+    }
+    std::string path = "no_folder.m";
+    EXPECT_EQ(AddFunctionHeader(path, "x"), "x");
+    EXPECT_EQ(path, "no_folder");
+    path = "C:\\dir.x\\It.m";
+    EXPECT_EQ(AddFunctionHeader(path, "x"), "function it;\r\nxend\r\n");
+    EXPECT_EQ(path, "C:\\dir.x\\It");
+}
+
+TEST_F(OutputTargetsTest, FilesThatAreNotWritten) {
+    mnuExeFile_Click(Sheet());
+    EXPECT_EQ(TakeTold(), "") << "without a file nothing is compiled";
+    screen.Paths = {"/nowhere/a.m"};
+    mnuExeFile_Click(Sheet());
+    EXPECT_EQ(TakeTold(), "!There are no inputs !|!No file to make, check your algorithm.");
+    Draw({{"Constant Input", "3"}});
+    screen.Paths = {"/nowhere/a.m"};
+    screen.MessageAnswers = {Answer::No};
+    mnuExeFile_Click(Sheet());
+    EXPECT_EQ(TakeTold(), "iDone !|?Do you want to add a function header ?");
+}
+
+TEST_F(OutputTargetsTest, TheLogGoesOnUntilItsWindowIsClosed) {
+    Draw({{"Constant Input", "3"}});
+    screen.Reply = "ans|";
+    screen.Kept = "unclosed|";
+    for (const char* log :
+         {"box1=3;\r\nans|unclosed|", "box1=3;\r\nans|unclosed|box1=3;\r\nans|unclosed|"}) {
+        mnuEXEMatlab_Click(Sheet());
+        EXPECT_EQ(frmTextResults.txt.Text, log);
+        EXPECT_TRUE(frmTextResults.Form.Visible);
+    }
+    frmTextResults_cmdOK_Click();
+    EXPECT_FALSE(frmTextResults.Form.Visible);
+    mnuEXEMatlab_Click(Sheet());
+    EXPECT_EQ(frmTextResults.txt.Text, "box1=3;\r\nans|unclosed|");
 }
 
 }  // namespace quorvane::testing

@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: MIT
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QProcess>
+#include <cstdio>
+#include <string>
+
+#include "diagram/box_table.h"
+#include "files/document_file.h"
+#include "generator/output_targets.h"
+#include "qt/frame_view.h"
+#include "qt/qt_desktop.h"
+#include "shell/application.h"
+
+/// What the link to a living Octave costs: each figure with its target. The argument is the path of
+/// octave-cli.
+namespace {
+
+using namespace quorvane;
+
+/// Nobody presses OK.
+struct BenchDesktop : QtDesktop {
+    Answer MsgBox(const Message&) override { return Answer::Ok; }
+};
+
+constexpr int Sends = 1000;
+constexpr int ChainBoxes = MaxBoxes - 1;
+
+void Report(const char* what, double value, double target) {
+    std::printf("%-46s %8.2f ms  target %5g  %s\n", what, value, target,
+                value < target ? "OK" : "over");
+}
+
+double Milliseconds(const QElapsedTimer& timer) {
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+/// How long an Octave takes to answer a line, with nobody between.
+double OwnMilliseconds(const QString& octave) {
+    QProcess process;
+    process.start(octave, {"--quiet", "--no-init-file", "--no-history", "--interactive"});
+    QElapsedTimer timer;
+    for (int i = -10; i < Sends; ++i) {
+        if (i == 0) timer.start();
+        process.write("disp(1);\n");
+        QByteArray answer;
+        while (!answer.contains("1\n") && process.waitForReadyRead()) answer += process.readAll();
+    }
+    const auto own = Milliseconds(timer) / Sends;
+    process.kill();
+    process.waitForFinished();
+    return own;
+}
+
+void DrawChain() {
+    NewDocument();
+    for (int i = 1; i <= ChainBoxes; ++i) {
+        Box& box = Boxes[NextBox];
+        box = Box();
+        box.BoxType = i == 1 ? "Constant Input" : "Screen Output";
+        box.BoxText = "1";
+        box.BoxDocument = 1;
+        box.BoxIn.Fill(LockedSlot);
+        if (i > 1) box.BoxIn[1] = static_cast<std::int16_t>(i - 1);
+        if (i < ChainBoxes) box.BoxOut[1] = static_cast<std::int16_t>(i + 1);
+        ++NextBox;
+    }
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication application(argc, argv);
+    BenchDesktop screen;
+    desktop = &screen;
+    ResetApplication();
+    FrameView frame;
+    frame.show();
+    const char* const octave = argc > 1 ? argv[1] : "/usr/bin/octave-cli";
+    QElapsedTimer timer;
+    timer.start();
+    screen.StartProcess(octave);
+    Report("start of the engine", Milliseconds(timer), 1000);
+    timer.start();
+    for (int i = 0; i < Sends; ++i) {
+        screen.LinkExecute("x=1;");
+        screen.LinkRequest();
+    }
+    const auto there = Milliseconds(timer) / Sends;
+    Report("one box there and back, beside Octave's own", there - OwnMilliseconds(octave), 2);
+    DrawChain();
+    timer.start();
+    mnuEXEMatlab_Click(*Documents[1]);
+    Report("a diagram of 349 boxes, its answers shown", Milliseconds(timer), 2000);
+    timer.start();
+    screen.LinkExecute("for i=1:20000,disp(i),end");
+    frmTextResults.txt.Text += screen.LinkRequest();
+    frame.Refresh();
+    QCoreApplication::processEvents();
+    Report("20,000 lines printed and shown", Milliseconds(timer), 1000);
+    return 0;
+}

@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "diagram/box_table.h"
+
+namespace quorvane {
+
+/// A type whose boxes come to nothing as they are.
+struct TroubledType {
+    std::string_view Key;
+    std::string_view Fault;     ///< What is wrong with its line, "" when no row writes one
+    std::string_view Function;  ///< What a "Matlab Command" box takes in its place
+};
+
+/// What is known of a type, nullptr when nothing is wrong with it.
+const TroubledType* FindTroubledType(std::string_view type);
+
+/// The function that a "Matlab Command" box takes in place of a "Matrix Manipulation" of this text;
+/// "" when its line is right.
+std::string ManipulationInstead(std::string_view text);
+
+/// The digits of the entries without which the line of a box has a hole or a call too few
+/// arguments, in order. The words of free texts count as they stand there.
+std::string NeededEntries(const Box& box);
+
+/// True when the text of a "Logic Operator" is an operator. The sign "~" parts the fields of a
+/// diagram file, and so is lost there.
+bool HasOperator(const Box& box);
+
+/// What the text of a box lacks for a whole line, "" when it is all there.
+std::string_view MissingInText(const Box& box);
+
+/// True when the text of a box has the word that names an entry without a digit of one behind it,
+/// which ends a run unless a file box came before.
+bool NamesNoEntry(const Box& box);
+
+/// True when the box leaves a value in its variable.
+bool SetsItsVariable(const Box& box);
+
+}  // namespace quorvane

@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace quorvane {
+
+/// A box that can't be written, and the first of its feeders that isn't done, 0 for none.
+struct WaitingBox {
+    int Box = 0;
+    int Feeder = 0;
+};
+
+/// How a run would end that nobody watches.
+struct TrialEnd {
+    bool Done = false;                ///< It came to its end
+    int Error = 0;                    ///< The run-time error that ended it, 0 for none
+    int Depth = 0;                    ///< Blocks that are open in the end; below 0 more were closed
+    std::vector<WaitingBox> Waiting;  ///< The front when it asked what to do about a stall
+    std::string Script;
+};
+
+/// Compiles a document to text with every question cancelled or aborted, and puts everything back
+/// as it was.
+TrialEnd TryCompiling(int document);
+
+}  // namespace quorvane

@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: MIT
+#include "generator/check_document.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "generator/generator_fixture.h"
+
+namespace quorvane::testing {
+
+class CheckTest : public GeneratorTest {
+protected:
+    /// The findings as "number text", after a check that must leave everything as it was.
+    Texts Check() {
+        const auto boxes = Boxes;
+        Texts texts;
+        for (const auto& finding : CheckDocument(1)) {
+            texts.push_back(std::to_string(finding.Box) + " " + finding.Text);
+            EXPECT_EQ(finding.Type, Boxes[finding.Box].BoxType);
+            EXPECT_FALSE(finding.Advice.empty());
+        }
+        EXPECT_EQ(Boxes, boxes);
+        EXPECT_EQ(desktop, &screen);
+        EXPECT_TRUE(screen.Messages.empty());
+        return texts;
+    }
+};
+
+TEST_F(CheckTest, PlantedFaults) {
+    for (const auto& row : ReadTable("generator/check.tsv")) {
+        SCOPED_TRACE(row.back() + " " + row[0]);
+        Restart();
+        for (std::size_t i = 2; i + 1 < row.size() && !row[i].empty(); ++i) {
+            auto box = Split(row[i], '~');
+            box.resize(4);
+            Draw({{box[0], box[1], Numbers(box[2]), Numbers(box[3])}});
+        }
+        const auto found = Check();
+        const auto begins = row[1].empty() ? Texts() : Split(row[1], '|');
+        const bool same =
+            std::equal(found.begin(), found.end(), begins.begin(), begins.end(),
+                       [](auto& text, auto& begin) { return text.starts_with(begin); });
+        EXPECT_TRUE(same) << Joined(found, "\n");
+    }
+}
+
+TEST_F(CheckTest, WhateverDoesNotEndWellIsFound) {
+    for (const char* const table : {"generator/walk.tsv", "generator/control_flow.tsv"}) {
+        const auto rows = ReadTable(table);
+        for (auto row = rows.begin(); row != rows.end();) {
+            const auto& expected = *row;
+            Restart();
+            for (++row; row != rows.end() && row->front().empty(); ++row) {
+                Draw({{(*row)[1], Crlf((*row)[2]), Numbers((*row)[3]), Numbers((*row)[4])}});
+            }
+            const bool endsWell = expected[2] == "Done !" && std::atoi(expected[3].c_str()) == 0;
+            const auto found = Check();
+            EXPECT_TRUE(endsWell || !found.empty()) << expected.back();
+        }
+    }
+}
+
+TEST_F(CheckTest, ExamplesAreClean) {
+    for (const auto& entry : std::filesystem::directory_iterator(QUORVANE_SOURCE_DIR "/examples")) {
+        if (entry.path().extension() != ".qvm") continue;
+        ResetApplication();
+        screen = ScriptedDesktop();
+        LoadDocumentFile(entry.path().string());
+        EXPECT_EQ(Joined(Check(), "\n"), "") << entry.path();
+    }
+}
+
+}  // namespace quorvane::testing
