@@ -117,7 +117,7 @@ std::string PieElement(const DrawnShape& pie) {
         return Point(x + radius * std::cos(angle), y - radius * std::sin(angle));
     };
     return "<path" + Attribute("stroke", ColorText(pie.Color)) +
-           " fill=\"#000000\" stroke-width=\"1\" d=\"M" + Point(x, y) + " L" + rim(start) + " A" +
+           " fill=\"#000000\" d=\"M" + Point(x, y) + " L" + rim(start) + " A" +
            Point(radius, radius) + " 0 " + (sweep > std::numbers::pi ? "1" : "0") + " 0 " +
            rim(start + sweep) + " Z\"/>\n";
 }

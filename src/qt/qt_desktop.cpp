@@ -101,6 +101,8 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
     if (mode == QFileDialog::AcceptSave) {
         takeEnding(filters.value(0));
         QObject::connect(&dialog, &QFileDialog::filterSelected, takeEnding);
+        // The file of a toolbox is only looked for, not written, also where a save dialog asks.
+        dialog.setOption(QFileDialog::DontConfirmOverwrite, filters.value(0).contains("*.tlb"));
     }
     if (!fileName.empty()) dialog.selectFile(ToScreen(fileName));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {

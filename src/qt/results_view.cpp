@@ -51,7 +51,15 @@ void ResultsView::Refresh() {
     setWindowTitle(ToScreen(form.Form.Caption));
     lblState_->setText(ToScreen(form.lblState.Caption));
     Grow();
-    if (isVisible() != form.Form.Visible) setVisible(form.Form.Visible);
+    if (isVisible() == form.Form.Visible) return;
+    if (form.Form.Visible && !testAttribute(Qt::WA_Moved)) MoveIntoCorner();
+    setVisible(form.Form.Visible);
+}
+
+/// It comes up where it hides the least of the worksheets: at the lower right of the frame.
+void ResultsView::MoveIntoCorner() {
+    constexpr QPoint margin(24, 48);
+    move(parentWidget()->frameGeometry().bottomRight() - rect().bottomRight() - margin);
 }
 
 /// The end of the log stays in sight, unless the user has gone up in it.

@@ -20,6 +20,7 @@ protected:
 
 private:
     void Grow();
+    void MoveIntoCorner();
 
     QPlainTextEdit* txt_;
     QLabel* lblState_;

@@ -58,7 +58,7 @@ std::int32_t ColorNumber(const QColor& color) {
 
 void PaintShapes(QPainter& painter, const std::vector<DrawnShape>& shapes, int penWidth) {
     painter.setBrush(Qt::black);
-    QPen outline(Qt::black, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+    QPen outline(Qt::black, penWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
     for (const auto& shape : shapes) {
         const bool isLine = shape.Shape == DrawnShape::Kind::Line;
         const auto color = ColorOf(shape.Color);
