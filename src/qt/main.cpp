@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
+#include <QFileInfo>
 #include <QIcon>
 #include <cstdio>
 #include <cstdlib>
 
+#include "files/document_file.h"
 #include "qt/dispatch.h"
 #include "qt/frame_view.h"
 #include "qt/qt_desktop.h"
@@ -36,13 +38,17 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QUORVANE_VERSION);
     QGuiApplication::setDesktopFileName("quorvane");
     QApplication::setWindowIcon(QIcon(":/quorvane.svg"));
+    // Starting may lead to another folder.
+    QStringList diagrams = QApplication::arguments().mid(1);
+    for (auto& diagram : diagrams) diagram = QFileInfo(diagram).absoluteFilePath();
     quorvane::ResetApplication();
     quorvane::QtDesktop desktop;
     quorvane::desktop = &desktop;
     quorvane::FrameView frame;
     quorvane::Dispatch(quorvane::StartProgram);
     frame.show();
-    const int code = QApplication::exec();
-    quorvane::RefreshScreen = [] {};
-    return code;
+    for (const auto& diagram : diagrams) {
+        quorvane::Dispatch([&] { quorvane::LoadDocumentFile(diagram.toStdString()); });
+    }
+    return QApplication::exec();
 }
