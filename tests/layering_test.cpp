@@ -68,10 +68,8 @@ std::string FaultOf(const std::string& from, const std::string& name, const std:
 }
 
 /// Follows the includes from a file on and collects all that can be reached.
-void Reach(const Arrows& arrows, const std::string& from, std::set<std::string>& seen) {
-    const auto found = arrows.find(from);
-    if (found == arrows.end()) return;
-    for (const auto& next : found->second) {
+void Reach(Arrows& arrows, const std::string& from, std::set<std::string>& seen) {
+    for (const auto& next : arrows[from]) {
         if (seen.insert(next).second) Reach(arrows, next, seen);
     }
 }

@@ -66,11 +66,6 @@ struct CatalogueTest : DiagramTest {
     int ModeInDialog = -1;  ///< EditMode while the dialog stood
     bool Stands = false;    ///< Whether the dialog still stood when the user had done
 
-    Worksheet& Sheet(int document = 1) { return *Documents[document]; }
-    void Restart() {
-        screen = {};
-        SetUp();
-    }
     /// Runs the command that opens a dialog, with these steps and OK in it, and returns the box.
     const Box& Make(const std::string& dialog, std::string steps = "") {
         steps += steps.empty() ? "" : "|";
@@ -100,16 +95,6 @@ struct CatalogueTest : DiagramTest {
             ++number;
         }
         return open;
-    }
-    /// The messages shown, "!" in front of those with the exclamation icon, parted by "|".
-    std::string Told() const {
-        std::string told;
-        for (const auto& message : screen.Messages) {
-            EXPECT_EQ(message.Title, "Quorvane");
-            told += told.empty() ? "" : "|";
-            told += (message.Picture == Icon::Exclamation ? "!" : "") + message.Text;
-        }
-        return told;
     }
 };
 

@@ -59,7 +59,7 @@ TEST_F(Dialogs, StepsArePackedIntoTheBox) {
         const auto& box = Make(row[0], row[1]);
         EXPECT_FALSE(Stands);
         EXPECT_EQ(Row(box), RowAt(row, 2));
-        EXPECT_EQ(Told(), row[6]);
+        EXPECT_EQ(TakeTold(), row[6]);
     }
 }
 

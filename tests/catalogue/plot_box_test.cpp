@@ -21,8 +21,8 @@ TEST_F(PlotBox, EachTypeComposesItsCommand) {
         Restart();
         steps += "cmbType=" + row[0] + (row[3].empty() ? "" : "|") + row[3];
         const auto& box = Make("frmPlot", steps);
-        EXPECT_EQ(Stands, !Told().empty());
-        EXPECT_EQ(Told() + box.BoxText, row[2] + (Stands ? "" : "\r\n"));
+        EXPECT_EQ(Stands, !screen.Messages.empty());
+        EXPECT_EQ(TakeTold() + box.BoxText, row[2] + (Stands ? "" : "\r\n"));
         EXPECT_EQ(Open(box.BoxIn), std::string(marked.begin(), marked.end()));
         EXPECT_EQ(Open(box.BoxOut), "");
     }

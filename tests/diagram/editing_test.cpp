@@ -3,78 +3,54 @@
 #include "diagram/comment_form.h"
 #include "diagram/connections.h"
 #include "diagram/delete_boxes.h"
-#include "diagram/editing_words.h"
-#include "diagram/editor_fixture.h"
 #include "diagram/layout.h"
 #include "diagram/page_view.h"
+#include "diagram/placement.h"
 #include "diagram/preferences.h"
-#include "support/table_file.h"
+#include "diagram/selection.h"
+#include "diagram/worksheet_events.h"
+#include "platform/numbers.h"
+#include "support/step_test.h"
 
 namespace quorvane::testing {
 
+using Numbers = std::vector<int>;
+
 /// Plays the tables of this folder: what a user does, and what then stands in the records.
-class EditingTest : public EditorTest, public ::testing::WithParamInterface<const char*> {
+class EditingTest : public StepTest, public ::testing::WithParamInterface<const char*> {
 protected:
-    void SetUp() override {
-        EditorTest::SetUp();
+    EditingTest() {
         for (auto&& some : {RecordWords(), SheetWords(), FormWords(), Steps(), Handlers()}) {
             words.insert(some.begin(), some.end());
         }
     }
 
-    void Restart() {
-        ResetApplication();
-        screen = ScriptedDesktop();
-        NewDocument();
+    static void Press(double X, double Y, int document = 1) {
+        main_MouseDown(Sheet(document), LeftButton, 0, X, Y);
     }
 
-    /// Carries out the cells of a row; those behind "at FORM" each time that form is shown.
-    void CarryOut(const std::vector<std::string>& cells, const std::string& place) {
-        for (auto next = cells.begin(); next != cells.end();) {
-            const auto& cell = *next++;
-            SCOPED_TRACE(::testing::Message() << place << " " << cell);
-            if (cell.starts_with("at ")) {
-                EXPECT_EQ(awaited, "");
-                awaited = cell.substr(3);
-                screen.Forms[awaited] = [this, place, rest = std::vector(next, cells.end())] {
-                    awaited.clear();
-                    CarryOut(rest, place);
-                };
-                return;
-            }
-            try {
-                if (!cell.empty()) CarryOut(cell);
-            } catch (const std::exception& error) {
-                ADD_FAILURE() << error.what();
-            }
-        }
+    /// Arms a box of this type and places it.
+    static void Place(const std::string& type, double X, double Y, int document = 1) {
+        EditMode = 1;
+        AddBox(Sheet(document));
+        Boxes[NextBox - 1].BoxType = type;
+        Press(X, Y, document);
     }
 
-    std::string awaited;  ///< A form that has yet to be shown
+    static void SelectNumbers(const Reals& numbers) {
+        SelectedBoxes.Resize(0);
+        for (const auto number : numbers) SelectedBoxes.Append(ToInt16(number));
+    }
+
+    static Numbers Selected() {
+        Numbers numbers;
+        for (int i = 1; i <= SelectedBoxes.UpperBound(); ++i) numbers.push_back(SelectedBoxes[i]);
+        return numbers;
+    }
 
 private:
-    /// "STEP ARGUMENTS", "VALUE ARGUMENTS = EXPECTED" or "VALUE ARGUMENTS := NEW".
-    void CarryOut(const std::string& cell) {
-        const auto equals = cell.find('=');
-        const bool sets = equals != std::string::npos && cell[equals - 1] == ':';
-        std::istringstream left(cell.substr(0, sets ? equals - 1 : equals));
-        std::string name;
-        left >> name;
-        Arguments a;
-        for (double number = 0; left >> number;) a.Given.push_back(number);
-        left.clear();
-        std::getline(left >> std::ws, a.Text);
-        const auto& word = words.at(name);
-        if (equals == std::string::npos) return word.Do(a);
-        const auto right = equals + 2 < cell.size() ? cell.substr(equals + 2) : "";
-        if (sets) return word.Set(a, right);
-        EXPECT_EQ(word.See(a), right);
-    }
-
     Words RecordWords() {
         return {
-            {"NextBox", Global(NextBox)},
-            {"EditMode", Global(EditMode)},
             {"ArrowSource", Global(ArrowSource)},
             {"BoxType", OfBox(&Box::BoxType)},
             {"BoxText", OfBox(&Box::BoxText)},
@@ -111,11 +87,8 @@ private:
     Words SheetWords() {
         using W = Worksheet;
         return {
-            {"NewDocument", Seen([](A) { return NewDocument(); })},
             {"AllocateDocument", Seen([](A) { return AllocateDocument(); })},
             {"CurrentDocument", Global(CurrentDocument)},
-            {"Modified", OfState(&DocumentState::Modified)},
-            {"Closed", OfState(&DocumentState::Closed)},
             {"PageRight", Global(PageRight)},
             {"PageBottom", Global(PageBottom)},
             {"txtEvent", Global(frmMDI.txtEvent)},
@@ -162,21 +135,15 @@ private:
 
     Words FormWords() {
         return {
-            {"told", Seen([this](A) { return Taken(screen.Messages); })},
-            {"shown", Seen([this](A) { return Taken(screen.FormsShown); })},
             {"color", Step([this](A a) { screen.Colors.push_back(a[0]); })},
             {"ColorStarts", Seen([this](A) { return Taken(screen.ColorStarts); })},
             {"chkShowBubbles", Global(frmPrefs.chkShowBubbles)},
             {"frmComment.Loaded", Global(frmComment.Form.Loaded)},
-            {"txtComment", Global(frmComment.txtComment.Text)},
             {"frmInfo.Caption", Global(frmInfo.Form.Caption)},
             {"frmInfo.Loaded", Global(frmInfo.Form.Loaded)},
-            {"lblBoxName", Global(frmInfo.lblBoxName.Caption)},
             {"lblfunc", Seen([](A) { return frmInfo.lblfunc; })},
             {"lblFrom", Seen([](A) { return frmInfo.lblFrom; })},
             {"lblTo", Seen([](A) { return frmInfo.lblTo; })},
-            {"lblEmpty", Global(frmInfo.lblEmpty.Caption)},
-            {"txtnum", Global(frmInfo.txtnum.Text)},
             {"chkFrom", Global(frmInfo.chkFrom)},
             {"chkTo", Global(frmInfo.chkTo)},
             {"chkLockedInputs", Global(frmInfo.chkLockedInputs)},
@@ -205,12 +172,13 @@ private:
             {"drag", Step([](A a) { main_MouseMove(Sheet(a[2]), LeftButton, 0, a.X(0), a.X(1)); })},
             {"hover", Step([](A a) { main_MouseMove(Sheet(a[0]), 0, 0, 10, 10); })},
             {"release", Step([](A a) { main_MouseUp(Sheet(a[0]), LeftButton, 0, 0, 0); })},
-            {"join", Step([](A a) { Join(a[0], a[1]); })},
-            {"select", Step([](A a) {
-                 SelectNumbers({a.Given.begin(), a.Given.end()});
+            {"join", Step([](A a) {
+                 EditMode = 3;
+                 for (const int end : {0, 1}) box_Click(Sheet(), a[static_cast<std::size_t>(end)]);
              })},
+            {"select", Step([](A a) { SelectNumbers(a.Given); })},
             {"delete", Step([](A a) {
-                 SelectNumbers({a.Given.begin(), a.Given.end()});
+                 SelectNumbers(a.Given);
                  bool silent = true;
                  DeleteBoxes(silent);
              })},
@@ -232,53 +200,18 @@ private:
 
     static Words Handlers() {
         return {
-            {"main_Resize", Handler(main_Resize)},
-            {"scrH_Change", Handler(scrH_Change)},
-            {"scrV_Change", Handler(scrV_Change)},
-            {"pnlArrow_Click", Handler(pnlArrow_Click)},
-            {"mnuArrow_Click", Handler(mnuArrow_Click)},
-            {"mnuMultipleArrows_Click", Handler(mnuMultipleArrows_Click)},
-            {"mnuEditLineColor_Click", Handler(mnuEditLineColor_Click)},
-            {"mnuEditMove_Click", Handler(mnuEditMove_Click)},
-            {"mnueditcopy_Click", Handler(mnueditcopy_Click)},
-            {"mnuEditClear_Click", Handler(mnuEditClear_Click)},
-            {"mnuOptionsBubbleShow_Click", Handler(mnuOptionsBubbleShow_Click)},
-            {"mnuPageView_Click", Handler(mnuPageView_Click)},
-            {"frmPageView_cmdOK_Click", Handler(frmPageView_cmdOK_Click)},
-            {"frmInfo_cmdOK_Click", Handler(frmInfo_cmdOK_Click)},
-            {"frmInfo_cmdCancel_Click", Handler(frmInfo_cmdCancel_Click)},
-            {"frmInfo_cmdColor_Click", Handler(frmInfo_cmdColor_Click)},
-            {"frmComment_txtComment_Change", Handler(frmComment_txtComment_Change)},
-            {"frmComment_cmdOK_Click", Handler(frmComment_cmdOK_Click)},
+            {"main_Resize", Step([](A a) { main_Resize(Sheet(a[0])); })},
+            {"scrH_Change", Step([](A a) { scrH_Change(Sheet(a[0])); })},
+            {"scrV_Change", Step([](A a) { scrV_Change(Sheet(a[0])); })},
+            {"pnlArrow_Click", Step([](A a) { pnlArrow_Click(Sheet(a[0])); })},
+            {"frmPageView_cmdOK_Click", Step([](A) { frmPageView_cmdOK_Click(); })},
         };
     }
 
-    /// What the desktop has noted since it was asked last, parted by " | ".
-    template <class T>
-    static std::string Taken(std::vector<T>& notes) {
-        std::string text;
-        for (const auto& note : notes) text += (text.empty() ? "" : " | ") + Show(note);
-        notes.clear();
-        return text;
-    }
-
-    Words words;
     decltype(Boxes) remembered;
 };
 
-TEST_P(EditingTest, Table) {
-    for (auto row : ReadTable(std::string("diagram/") + GetParam() + ".tsv")) {
-        const auto place = row.back();
-        row.pop_back();
-        if (!row[0].empty()) {
-            EXPECT_EQ(awaited, "") << "was not shown before " << place;
-            Restart();
-        }
-        row[0].clear();
-        CarryOut(row, place);
-    }
-    EXPECT_EQ(awaited, "");
-}
+TEST_P(EditingTest, Table) { PlayTable(std::string("diagram/") + GetParam() + ".tsv"); }
 
 INSTANTIATE_TEST_SUITE_P(Tables, EditingTest,
                          ::testing::Values("arrows", "box_info", "connections", "delete_boxes",

@@ -292,6 +292,7 @@ int Hold() {
 }  // namespace quorvane::testing
 
 int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication application(argc, argv);
     ::testing::InitGoogleTest(&argc, argv);
     if (argc > 1 && argv[1] == std::string("--hold")) return quorvane::testing::Hold();

@@ -14,8 +14,8 @@ class DocumentTest : public DiagramTest {
 protected:
     void SetUp() override {
         DiagramTest::SetUp();
-        before_ = CurrentDirectory();
         ChangeDirectory(folder.Path.string());
+        for (const auto& name : NamesIn(".")) std::filesystem::remove_all(name);
     }
     void TearDown() override {
         DiagramTest::TearDown();
@@ -32,7 +32,7 @@ protected:
     WorkFolder folder;
 
 private:
-    std::string before_;
+    const std::string before_ = CurrentDirectory();
 };
 
 }  // namespace quorvane::testing

@@ -2,34 +2,25 @@
 // Loads the input as a diagram file, compiles it, saves it and loads it again. A run may end in any
 // of its ways, in a run-time error too; it may not crash, hang, ask for ever or leave marks behind,
 // and what was saved must come back.
-#include <cstdint>
-#include <iostream>
 
 #include "catalogue/matrix_input.h"
 #include "diagram/box_table.h"
 #include "diagram/worksheet.h"
 #include "files/document_file.h"
 #include "files/settings.h"
-#include "files/work_folder.h"
+#include "fuzz/fuzz_support.h"
 #include "generator/compile_document.h"
-#include "shell/application.h"
-#include "support/scripted_desktop.h"
 
 using namespace quorvane;
+using namespace quorvane::testing;
 
 namespace {
 
 constexpr unsigned MostQuestions = 50;
 constexpr unsigned MostCalls = 200000;
 
-void Check(bool holds, const std::string& what) {
-    if (holds) return;
-    std::cerr << "FINDING: " << what << std::endl;
-    std::abort();
-}
-
 /// Answers in a circle, from a place that the input's hash tells, and gives up after a while.
-struct CyclicDesktop : quorvane::testing::ScriptedDesktop {
+struct CyclicDesktop : ScriptedDesktop {
     std::uint32_t Hash = 0;
     unsigned Calls = 0;
     unsigned Questions = 0;
@@ -80,13 +71,6 @@ struct CyclicDesktop : quorvane::testing::ScriptedDesktop {
         if ((Hash & 8U) != 0 && failure != 0) throw RuntimeError(failure);
     }
 };
-
-/// FNV-1a. The choices of a run hang on it, so that no byte of the input is spent on them.
-std::uint32_t HashOf(std::string_view bytes) {
-    std::uint32_t hash = 2166136261U;
-    for (const char byte : bytes) hash = (hash ^ static_cast<std::uint8_t>(byte)) * 16777619U;
-    return hash ^ (hash >> 15);
-}
 
 /// The box as one of another document whose links count otherwise.
 template <class Renumber>
@@ -166,24 +150,16 @@ void SaveAndLoadAgain(CyclicDesktop& screen, int document) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    // In memory where there is such a thing: a save waits for the disk.
-    if (std::filesystem::is_directory("/dev/shm")) setenv("TMPDIR", "/dev/shm", 0);
-    static const quorvane::testing::WorkFolder folder;
-    const std::string bytes(reinterpret_cast<const char*>(data), size);
-    const auto path = folder / "input.qvm";
-    quorvane::testing::WriteAll(path, bytes);
-    CyclicDesktop screen;
-    screen.Hash = HashOf(bytes);
-    screen.SavedAs = folder / "saved.qvm";
-    ResetApplication();
-    desktop = &screen;
-    LoadDocumentFile(path);
-    if (screen.Hash / 256 % 4 == 0) LoadBehindItself(path);
-    Check(NextBox >= 1 && NextBox <= MaxBoxes + 1, "a load left a wrong number of boxes");
-    const int document = Documents.UpperBound();
-    Compile(screen, document);
-    SaveAndLoadAgain(screen, document);
-    ResetApplication();
-    desktop = nullptr;
-    return 0;
+    return RunInput("input.qvm", data, size, [](const std::string& bytes, const std::string& path) {
+        CyclicDesktop screen;
+        screen.Hash = HashOf(bytes);
+        screen.SavedAs = FuzzFolder() / "saved.qvm";
+        desktop = &screen;
+        LoadDocumentFile(path);
+        if (screen.Hash / 256 % 4 == 0) LoadBehindItself(path);
+        Check(NextBox >= 1 && NextBox <= MaxBoxes + 1, "a load left a wrong number of boxes");
+        const int document = Documents.UpperBound();
+        Compile(screen, document);
+        SaveAndLoadAgain(screen, document);
+    });
 }

@@ -2,30 +2,22 @@
 // Reads the input as the settings file, saves the preferences into it and reads them again. A line
 // width that is no digit ends the reading; nothing else may. What was saved must come back, and
 // every other line must stay.
-#include <cstdint>
-#include <iostream>
+#include <algorithm>
 #include <sstream>
 
 #include "files/settings.h"
-#include "files/work_folder.h"
+#include "fuzz/fuzz_support.h"
 #include "platform/runtime_error.h"
-#include "shell/application.h"
-#include "support/scripted_desktop.h"
 
 using namespace quorvane;
+using namespace quorvane::testing;
 
 namespace {
 
-void Check(bool holds, const std::string& what) {
-    if (holds) return;
-    std::cerr << "FINDING: " << what << std::endl;
-    std::abort();
-}
-
 /// Reads the settings into the preferences as they are at the start.
-void Read(const std::string& folder) {
+void Read() {
     ResetApplication();
-    ProgramDirectory = folder;
+    ProgramDirectory = FuzzFolder().Path.string();
     try {
         ReadSettings();
     } catch (const RuntimeError& error) {
@@ -51,14 +43,12 @@ std::string Values() {
 }
 
 /// The lines of a file that are no value: they have no "=".
-std::string OtherLines(const std::string& bytes) {
+std::string OtherLines(std::string bytes) {
+    std::replace(bytes.begin(), bytes.end(), '\r', '\n');
     std::istringstream text(bytes);
     std::string others;
     for (std::string line; std::getline(text, line);) {
-        std::istringstream parts(line);
-        for (std::string part; std::getline(parts, part, '\r');) {
-            if (!part.empty() && part.find('=') == std::string::npos) others += part + "\n";
-        }
+        if (!line.empty() && line.find('=') == std::string::npos) others += line + "\n";
     }
     return others;
 }
@@ -66,22 +56,19 @@ std::string OtherLines(const std::string& bytes) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static const quorvane::testing::WorkFolder folder;
-    const std::string bytes(data, data + size);
-    quorvane::testing::WriteAll(folder / "quorvane.ini", bytes);
-    quorvane::testing::ScriptedDesktop screen;
-    desktop = &screen;
-    Read(folder.Path.string());
-    const auto values = Values();
-    frmPrefs_cmdSave_Click();
-    const auto saved = quorvane::testing::ReadAll(folder / "quorvane.ini");
-    const auto kept = OtherLines(bytes);
-    Check(OtherLines(saved).substr(0, kept.size()) == kept, "a save lost a line");
-    Read(folder.Path.string());
-    Check(Values() == values, "what was saved came back changed");
-    frmPrefs_cmdSave_Click();
-    Check(quorvane::testing::ReadAll(folder / "quorvane.ini") == saved, "a second save differs");
-    ResetApplication();
-    desktop = nullptr;
-    return 0;
+    return RunInput(
+        "quorvane.ini", data, size, [](const std::string& bytes, const std::string& path) {
+            ScriptedDesktop screen;
+            desktop = &screen;
+            Read();
+            const auto values = Values();
+            frmPrefs_cmdSave_Click();
+            const auto saved = ReadAll(path);
+            const auto kept = OtherLines(bytes);
+            Check(OtherLines(saved).substr(0, kept.size()) == kept, "a save lost a line");
+            Read();
+            Check(Values() == values, "what was saved came back changed");
+            frmPrefs_cmdSave_Click();
+            Check(ReadAll(path) == saved, "a second save differs");
+        });
 }

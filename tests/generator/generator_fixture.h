@@ -46,12 +46,6 @@ inline std::string StallText(std::string_view boxAndType) {
 /// A test of the generator on document 1.
 class GeneratorTest : public DiagramTest {
 protected:
-    /// Clears the table, the windows and the desktop's memory: one row of a table begins anew.
-    void Restart() {
-        ResetApplication();
-        screen = ScriptedDesktop();
-        NewDocument();
-    }
     /// Prepares the answers with these first letters.
     void Prepare(const std::string& answers) {
         using enum Answer;

@@ -3,16 +3,13 @@
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
-#include <csignal>
 #include <functional>
 #include <map>
 
 #include "files/work_folder.h"
+#include "platform/child_process.h"
 #include "platform/raised_error.h"
 #include "support/table_file.h"
 
@@ -131,16 +128,6 @@ TEST_F(FileTable, Limits) {
     EXPECT_EQ(FreeFile(), 1);
 }
 
-/// Runs a check in a child process and gives its result; -1 when the child was killed.
-template <class Check>
-int InChild(Check check) {
-    const auto child = fork();
-    if (child == 0) _exit(check());
-    int status = 0;
-    waitpid(child, &status, 0);
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
 TEST_F(FileTable, AKilledWriterLeavesTheOldFileWhole) {
     WriteAll("f", "old");
     for (const bool killed : {false, true}) {
@@ -161,10 +148,7 @@ TEST_F(FileTable, AFullDiskLeavesTheOldFileWhole) {
     // The first fails when it is closed, the other while it is printed.
     for (const auto& text : {Flood.substr(0, 14000), Flood}) {
         const int fault = InChild([&] {
-            // No file of this process may grow further, which is as good as a full disk.
-            std::signal(SIGXFSZ, SIG_IGN);
-            const rlimit limit = {12288, 12288};
-            setrlimit(RLIMIT_FSIZE, &limit);
+            LimitFiles(12288);
             WriteAll("f", old);
             OpenForOutput(1, "f");
             const int printing = RaisedError([&] { Print(1, text); });
@@ -203,7 +187,7 @@ TEST_F(FileTable, WriteProtectionHolds) {
     ASSERT_EQ(chmod("f", 0444), 0);
     ASSERT_EQ(chmod("locked", 0555), 0);
     const int fault = InChild([] {
-        if (geteuid() == 0 && setuid(65534) != 0) return 1;
+        BecomeNobody();
         if (RaisedError([] { OpenForOutput(1, "f"); }) != 75) return 2;
         if (RaisedError([] { OpenForOutput(1, "locked/new"); }) != 75) return 3;
         return FreeFile() == 1 ? 0 : 4;

@@ -2,13 +2,10 @@
 #include "platform/profile_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
-#include <sys/wait.h>
-
-#include <csignal>
 
 #include "files/work_folder.h"
+#include "platform/child_process.h"
 #include "platform/file_table.h"
 #include "platform/paths.h"
 #include "platform/raised_error.h"
@@ -113,23 +110,18 @@ TEST(ProfileFile, AFailedWriteIsSilentAndLeavesTheOldFile) {
     std::filesystem::create_directory(folder / "locked");
     WriteAll(folder / "locked/f", old);
     ASSERT_EQ(chmod((folder / "locked").c_str(), 0555), 0);
-    const auto child = fork();
-    if (child == 0) {
-        WritePrivateProfileString("s", "k", "new", folder / "huge");
-        WritePrivateProfileString("s", "k", "new", folder / "none/f");
-        WritePrivateProfileString("s", "k", "new", folder / "locked");
-        std::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit = {8, 8};
-        setrlimit(RLIMIT_FSIZE, &limit);
+    const int numbersLeft = InChild([&] {
+        for (const char* name : {"huge", "none/f", "locked"}) {
+            WritePrivateProfileString("s", "k", "new", folder / name);
+        }
+        LimitFiles(8);
         WritePrivateProfileString("s", "k", "new", folder / "locked/f");
-        if (geteuid() == 0 && setuid(65534) != 0) _exit(1);
+        BecomeNobody();
         WritePrivateProfileString("s", "k", "new", folder / "locked/f");
         WritePrivateProfileString("s", "k", "new", folder / "locked/g");
-        _exit(FreeFile() == 1 ? 0 : 2);
-    }
-    int status = -1;
-    waitpid(child, &status, 0);
-    EXPECT_EQ(status, 0);
+        return FreeFile() - 1;
+    });
+    EXPECT_EQ(numbersLeft, 0);
     ASSERT_EQ(chmod((folder / "locked").c_str(), 0755), 0);
     EXPECT_EQ(ReadAll(folder / "locked/f"), old);
     EXPECT_EQ(NamesIn(folder / "locked"), std::set<std::string>{"f"});

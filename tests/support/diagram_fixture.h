@@ -34,6 +34,13 @@ protected:
         ResetApplication();
         desktop = nullptr;
     }
+    /// Begins anew, with a desktop that remembers nothing: for each row of a table.
+    void Restart() {
+        screen = ScriptedDesktop();
+        SetUp();
+    }
+
+    static Worksheet& Sheet(int document = 1) { return *Documents[document]; }
 
     /// Adds boxes behind those of the table, as records without a picture, and returns the first
     /// one's number.
@@ -53,6 +60,19 @@ protected:
             ++NextBox;
         }
         return first;
+    }
+
+    /// The messages since the last time, each with its icon, one of "-i?!x", in front; parted by
+    /// "|".
+    std::string TakeTold() {
+        std::string told;
+        for (const auto& message : screen.Messages) {
+            EXPECT_EQ(message.Title, "Quorvane");
+            told += (told.empty() ? "" : "|");
+            told += "-i?!x"[static_cast<int>(message.Picture)] + message.Text;
+        }
+        screen.Messages.clear();
+        return told;
     }
 
     ScriptedDesktop screen;

@@ -5,6 +5,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QDrag>
+#include <QDropEvent>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLineEdit>
@@ -21,6 +23,7 @@
 #include "qt/dispatch.h"
 #include "qt/worksheet_view.h"
 #include "shell/application.h"
+#include "shell/start_up.h"
 
 namespace quorvane::testing {
 
@@ -71,13 +74,24 @@ void PlayStep(QDialog& dialog, const QString& step) {
         combo->setCurrentText(text);
     } else if (auto* line = qobject_cast<QLineEdit*>(control)) {
         line->selectAll();
-        QTest::keyClicks(line, text);
+        line->insert(text);
+    } else if (auto* slider = qobject_cast<QAbstractSlider*>(control)) {
+        slider->setValue(text.toInt());
     } else {
         QTest::mouseClick(control, Qt::LeftButton, {}, QPoint(8, control->height() / 2));
     }
 }
 
 }  // namespace
+
+double ColoredIn(const QImage& picture, int row, QPair<int, int> columns, const QColor& color) {
+    const auto ratio = picture.devicePixelRatio();
+    int count = 0;
+    for (int x = qRound(columns.first * ratio); x < columns.second * ratio; ++x) {
+        if (picture.pixelColor(x, qRound(row * ratio)) == color) ++count;
+    }
+    return count / ratio;
+}
 
 Hand Press(int standardButton) {
     return [standardButton](QDialog& dialog) {
@@ -113,29 +127,44 @@ Hand Cancel() {
     return [](QDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); };
 }
 
-Hand Play(std::initializer_list<const char*> steps) {
-    return [all = std::vector<QString>(steps.begin(), steps.end())](QDialog& dialog) {
-        for (const auto& step : all) PlayStep(dialog, step);
+Hand Play(const QString& steps) {
+    return [steps](QDialog& dialog) {
+        for (const auto& step : steps.split('|', Qt::SkipEmptyParts)) PlayStep(dialog, step);
     };
 }
 
 Program::Program() {
     QCoreApplication::setOrganizationName("Quorvane");
     QCoreApplication::setApplicationName("Quorvane");
-    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, folder_.filePath("store"));
-    ResetApplication();
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("store"));
+    std::filesystem::current_path(folder_.Path);
     quorvane::desktop = &desktop_;
-    frame_ = std::make_unique<FrameView>();
-    frame_->show();
-    if (!QTest::qWaitForWindowActive(frame_.get())) Fail("The frame doesn't come to the screen");
+    Open([] {});
     Watch();
 }
 
 Program::~Program() {
+    if (!Answers.empty()) Fail("Somebody was not asked");
     RefreshScreen = [] {};
     frame_.reset();
     ResetApplication();
     quorvane::desktop = nullptr;
+    std::filesystem::current_path(before_);
+}
+
+void Program::Open(void (*start)()) {
+    frame_.reset();
+    ResetApplication();
+    frame_ = std::make_unique<FrameView>();
+    Dispatch(start);
+    frame_->show();
+    if (!QTest::qWaitForWindowActive(frame_.get())) Fail("The frame doesn't come to the screen");
+}
+
+void Program::Start() { Open(StartProgram); }
+
+QString Program::File(const QString& name) const {
+    return QString::fromStdString(folder_ / name.toStdString());
 }
 
 /// Looks for a dialog again and again, also while another one is being answered.
@@ -227,6 +256,21 @@ void Program::Band(QPoint from, QPoint to, int document) {
     QTest::mouseRelease(surface, Qt::LeftButton, {}, to);
 }
 
+void Program::Drag(QWidget* source, QWidget* target, QPoint at) {
+    QTest::mousePress(source, Qt::LeftButton, {}, {16, 16});
+    QTest::mouseMove(source, {19, 19});
+    if (source->findChild<QDrag*>()) Fail("A hand that trembles drags");
+    QTest::mouseMove(source, {30, 30});
+    auto* drag = source->findChild<QDrag*>();
+    if (!drag) return Fail("Nothing is dragged");
+    QDragEnterEvent enter(at, Qt::MoveAction, drag->mimeData(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(target, &enter);
+    if (!enter.isAccepted()) Fail("The drop is refused");
+    QDropEvent drop(at, Qt::MoveAction, drag->mimeData(), Qt::LeftButton, {});
+    QCoreApplication::sendEvent(target, &drop);
+    QTest::mouseRelease(source, Qt::LeftButton);
+}
+
 QImage Program::Screen(QWidget* widget) const {
     QCoreApplication::processEvents();
     const auto all = frame_->screen()->grabWindow(frame_->winId()).toImage();
@@ -234,6 +278,10 @@ QImage Program::Screen(QWidget* widget) const {
     return all.copy(
         QRectF(widget->mapTo(frame_.get(), QPointF()) * ratio, QSizeF(widget->size()) * ratio)
             .toRect());
+}
+
+double Program::Colored(int row, QPair<int, int> columns, const QColor& color, int document) const {
+    return ColoredIn(Screen(Surface(document)), row, columns, color);
 }
 
 }  // namespace quorvane::testing

@@ -4,18 +4,24 @@
 #include <QDialog>
 #include <QImage>
 #include <QStringList>
-#include <QTemporaryDir>
 #include <deque>
 #include <functional>
-#include <initializer_list>
 #include <memory>
 
+#include "files/work_folder.h"
 #include "qt/frame_view.h"
 #include "qt/qt_desktop.h"
 
 class QMdiSubWindow;
 
 namespace quorvane::testing {
+
+/// The colour of an arrow that nobody has changed.
+const QColor NewArrow(0xE0, 0xE0, 0xE0);
+
+/// How many pixels of this colour a row of a picture has, of those between two columns; both count
+/// logical pixels, so that a screen of another scale gives the same.
+double ColoredIn(const QImage& picture, int row, QPair<int, int> columns, const QColor& color);
 
 /// What the user does at a dialog.
 using Hand = std::function<void(QDialog& dialog)>;
@@ -24,13 +30,20 @@ Hand Press(int standardButton);      ///< A button of a message box
 Hand TypeIn(const QString& text);    ///< A prompt
 Hand PickFile(const QString& path);  ///< A file dialog
 Hand Cancel();
-/// Clicks the controls of a form one after another; "txtMax=5" types into one, and "cmbType=Bar"
-/// picks.
-Hand Play(std::initializer_list<const char*> steps);
+/// Clicks the controls of a form one after another, "opn(2)|cmdOK"; "txtMax=5" pastes into one, and
+/// "cmbType=Bar" picks.
+Hand Play(const QString& steps);
 
-/// The program on an off-screen desktop, from its start, and the user's hands. Each modal dialog
-/// takes the next of Answers; one for which there is none fails the test. The per-user store is
-/// empty and a file of its own. Places are pixels of a worksheet's surface.
+/// A desktop whose clock doesn't keep a test waiting.
+struct HastyDesktop : QtDesktop {
+    int Seconds = 0;
+    int ClockSeconds() override { return Seconds += 3; }
+};
+
+/// The program on an off-screen desktop, and the user's hands. It stands in an empty folder of its
+/// own, and its per-user store is empty. Each modal dialog takes the next of Answers; one for which
+/// there is none fails the test, and so does an answer that is left. Places are pixels of a
+/// worksheet's surface.
 class Program : public QObject {
 public:
     Program();
@@ -39,6 +52,8 @@ public:
     std::deque<Hand> Answers;
     QStringList Asked;  ///< Of each dialog its name or title, ": ", and its message or prompt
 
+    /// Starts the program anew from the current folder. Before that there is a bare frame.
+    void Start();
     FrameView& Frame() { return *frame_; }
     QMdiSubWindow* Window(int document = 1) const;
     QWidget* Surface(int document = 1) const;
@@ -49,8 +64,8 @@ public:
     QStringList BoxNames(int document = 1) const;
     /// The entry of the menu bar that shows, nullptr when it isn't there or is hidden.
     QAction* Entry(const QString& control) const;
-    /// A folder that goes with the program.
-    QString File(const QString& name) const { return folder_.filePath(name); }
+    /// The path of a file in the program's folder.
+    QString File(const QString& name) const;
 
     /// Chooses a menu entry, which must be there and enabled.
     void Choose(const QString& control);
@@ -61,15 +76,22 @@ public:
     void Join(int source, int destination, int document = 1);
     /// Draws the rubber band and leaves it on the screen.
     void Band(QPoint from, QPoint to, int document = 1);
+    /// Presses here, and pulls until something is carried away, which is then dropped there:
+    /// off-screen a drag would end where it begins.
+    void Drag(QWidget* source, QWidget* target, QPoint at);
     /// What stands on the screen where a widget lies, in device pixels. At a device pixel ratio of
     /// 2 that is known of the left and upper half of the frame.
     QImage Screen(QWidget* widget) const;
+    /// How many pixels of this colour a row of a worksheet has, between two columns.
+    double Colored(int row, QPair<int, int> columns, const QColor& color, int document = 1) const;
 
 private:
+    void Open(void (*start)());
     void Watch();
 
-    QTemporaryDir folder_;
-    QtDesktop desktop_;
+    const std::filesystem::path before_ = std::filesystem::current_path();
+    WorkFolder folder_;
+    HastyDesktop desktop_;
     std::unique_ptr<FrameView> frame_;
 };
 

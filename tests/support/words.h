@@ -103,14 +103,6 @@ void Read(std::istream& in, T& value) {
 }
 
 inline Word Step(std::function<void(A)> step) { return {std::move(step), {}, {}}; }
-/// A step that is a handler of the program.
-inline Word Handler(void (*handler)()) {
-    return Step([handler](A) { handler(); });
-}
-inline Word Handler(void (*handler)(Worksheet&)) {
-    return Step([handler](A a) { handler(*Documents[a[0]]); });
-}
-
 template <class Access>
 Word Seen(Access access) {
     return {{}, [access](A a) { return Show(access(a)); }, {}};

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: MIT
+#include "shell/frame.h"
+
+#include "files/settings.h"
+#include "generator/output_targets.h"
+#include "shell/help.h"
+#include "shell/tour.h"
+#include "support/step_test.h"
+#include "toolbox/toolbox.h"
+
+namespace quorvane::testing {
+
+/// Plays the tables of the frame's commands and of the tour.
+class ShellTest : public StepTest, public ::testing::WithParamInterface<const char*> {
+protected:
+    ShellTest() {
+        Words some = {
+            {"LoadToolbox", Step([](A) { LoadToolbox(); })},
+            {"UnloadFrame", Step([](A) { UnloadFrame(); })},
+            {"no", Step([this](A) { screen.MessageAnswers = {Answer::No}; })},
+            {"ended", Global(screen.Ended)},
+            {"helped", Seen([this](A) { return Taken(screen.HelpCommands); })},
+            {"HelpFile", Global(HelpFile)},
+            {"ProgramDirectory", Global(ProgramDirectory)},
+            {"log", Global(frmTextResults.txt.Text)},
+            {"left", Seen([](A) {
+                 std::string left;
+                 for (int i = 1; i <= 2; ++i) left += Documents[i] ? "D" : "-";
+                 left += frmPictures.Form.Loaded ? "T" : "-";
+                 return left + (frmTextResults.txt.Text.empty() ? "-" : "L");
+             })},
+            {"frmPrefs_Activate", Step([](A) { frmPrefs_Activate(); })},
+            {"sheet", Seen([](A a) {
+                 const auto& sheet = Sheet(a[0]);
+                 return std::to_string(sheet.DrawWidth) +
+                        (sheet.mnuOptionsBubbleShow.Checked ? " bubbles " : " - ") +
+                        (sheet.mnuOptionsToolbox.Checked ? "toolbox " : "- ") +
+                        sheet.mnuOptionsCurrentToolbox.Caption;
+             })},
+            {"drawn",
+             {{},
+              [](A a) { return Show(Sheet(a[0]).Surface.size()); },
+              [](A a, const std::string&) { Sheet(a[0]).Surface.resize(1); }}},
+            {"toolbox", Seen([](A) -> std::string {
+                 if (!frmPictures.Form.Loaded) return "gone";
+                 return frmPictures.Form.Visible ? "shown" : "loaded";
+             })},
+            {"Columns", Global(frmPictures.Columns)},
+            {"ReloadMarker", Global(frmPictures.ReloadMarker)},
+            {"tour", Seen([](A a) {
+                 const auto& panel = Sheet(a[0]).pnlTour;
+                 return panel.Caption + (panel.Visible ? "" : "-");
+             })},
+            {"pnlTour_Click", Step([](A a) { pnlTour_Click(Sheet(a[0])); })},
+            {"TourStep", Global(TourStep)},
+        };
+        words.merge(some);
+    }
+};
+
+TEST_P(ShellTest, Table) { PlayTable(std::string("shell/") + GetParam() + ".tsv"); }
+
+INSTANTIATE_TEST_SUITE_P(Tables, ShellTest, ::testing::Values("frame", "tour"),
+                         [](const auto& table) { return std::string(table.param); });
+
+}  // namespace quorvane::testing
