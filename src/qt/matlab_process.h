@@ -25,7 +25,7 @@ public:
 
     /// Starts a program in place of the running one and waits until it answers. Error 53 when it
     /// can't be started or ends at once.
-    void Start(const QString& program);
+    void Start(const QString& chosen);
     bool IsRunning() const;
     /// Runs a script, or keeps it while a block that began in it or before it is open. Error 282
     /// when no engine is running.

@@ -165,24 +165,24 @@ std::int32_t QtDesktop::ColorDialog(std::int32_t start) {
     return ColorNumber(dialog.selectedColor());
 }
 
-void QtDesktop::ShowModal(std::string_view name) {
+void QtDesktop::ShowModal(std::string_view form) {
     RefreshScreen();
-    if (name == "frmPageView") {
+    if (form == "frmPageView") {
         PageViewDialog(Parent()).exec();
         return;
     }
-    if (name == "frmMatrix") {
+    if (form == "frmMatrix") {
         MatrixDialog(Parent()).exec();
         return;
     }
-    const auto* form = FindForm(name);
-    if (!form) return;
-    form->State->Visible = true;
+    const auto* table = FindForm(form);
+    if (!table) return;
+    table->State->Visible = true;
     std::unique_ptr<FormView> view;
-    if (name == "frmConfigToolbox") {
-        view = std::make_unique<ConfigToolboxView>(*form, Parent());
+    if (form == "frmConfigToolbox") {
+        view = std::make_unique<ConfigToolboxView>(*table, Parent());
     } else {
-        view = std::make_unique<FormView>(*form, Parent());
+        view = std::make_unique<FormView>(*table, Parent());
     }
     view->Refresh();
     view->exec();

@@ -119,7 +119,10 @@ void LoadFileButtons(const std::string& name) {
     }
     const int count = frmPictures.Keys.UpperBound();
     const int columns = frmPictures.Columns;
-    if (columns != 0) frmPictures.Height = (count / columns + 1) * FilePitch.Row + 360;
+    if (columns != 0) {
+        const int rows = count / columns + 1;
+        frmPictures.Height = rows * FilePitch.Row + 360;
+    }
     frmPictures.Width = columns * FilePitch.Column + 70;
 }
 
