@@ -15,7 +15,9 @@
 
 namespace quorvane {
 
-ResultsView::ResultsView(QWidget* frame) : QWidget(frame, Qt::Window) {
+// As a dialog it stays above the frame.
+ResultsView::ResultsView(QWidget* frame)
+    : QWidget(frame, Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint) {
     setObjectName("frmTextResults");
     txt_ = new QPlainTextEdit;
     txt_->setObjectName("txt");
