@@ -64,6 +64,12 @@ struct ComboBox {
     bool Enabled = true;
 };
 
+/// A list of one column.
+struct ListBox {
+    std::vector<std::string> List;
+    int ListIndex = -1;  ///< The selected entry, from 0; -1 for none
+};
+
 struct PictureBox {
     int Picture = 0;  ///< Cell of the icon strip, 1 to 146; 0 no picture
 };
@@ -90,6 +96,7 @@ struct FormState {
     std::string Caption;
     bool Visible = false;
     bool Loaded = false;
+    int MousePointer = PointerDefault;
 };
 
 }  // namespace quorvane

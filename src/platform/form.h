@@ -12,11 +12,12 @@ namespace quorvane {
 
 /// The record of a control, of whatever kind.
 using ControlRecord = std::variant<Label*, TextBox*, Button*, CheckBox*, OptionButton*, ComboBox*,
-                                   PictureBox*, ScrollBar*>;
+                                   ListBox*, PictureBox*, ScrollBar*>;
 
 /// A control of a form by its name in the layout ("txtTitle", "chkFrom(1)"), its record, and the
 /// handler of its event: a click of a button, check box or option button, a change of a text box,
-/// combo box or scroll bar. The record holds what the user did when the handler runs.
+/// combo box or scroll bar, the selection in a list. The record holds what the user did when the
+/// handler runs.
 struct ControlRow {
     std::string Name;
     ControlRecord Record;
@@ -30,6 +31,8 @@ struct Form {
     FormState* State = nullptr;
     std::vector<ControlRow> Controls;
     std::function<void()> Activated = nullptr;  ///< Runs when the form has come to the screen
+    /// Runs when the user closes the window; without it the form can't be closed by the user.
+    std::function<void()> Closed = nullptr;
 };
 
 }  // namespace quorvane

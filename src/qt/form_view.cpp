@@ -4,22 +4,30 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFontDatabase>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLayout>
 #include <QLineEdit>
+#include <QListView>
 #include <QListWidget>
 #include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollArea>
 #include <QScrollBar>
+#include <QThread>
 #include <QTimer>
+#include <QWindow>
 
 #include "diagram/preferences.h"
 #include "qt/dispatch.h"
 #include "qt/form_layouts.h"
 #include "qt/icon_strip.h"
+#include "qt/list_box_model.h"
 #include "qt/option_list_layout.h"
 #include "qt/screen_units.h"
 #include "qt/shape_painter.h"
@@ -36,9 +44,14 @@ constexpr int PreviewPixels = 64;
 // Show: a record on its control.
 
 void Show(const Label& record, QWidget* control) {
+    const auto text = ToScreen(record.Caption).replace("\r\n", "\n");
     auto* label = qobject_cast<QLabel*>(control);
-    if (label && label->text() != ToScreen(record.Caption))
-        label->setText(ToScreen(record.Caption));
+    if (label && label->text() != text) {
+        label->setText(text);
+        // A text that scrolls begins at its beginning.
+        auto* area = qobject_cast<QScrollArea*>(label->parentWidget()->parentWidget());
+        if (area) area->ensureVisible(0, 0, 0, 0);
+    }
     control->setVisible(record.Visible);
 }
 
@@ -103,6 +116,15 @@ void Show(const ComboBox& record, QWidget* control) {
     combo->setVisible(combo->isEditable() || !record.List.empty());
 }
 
+void Show(const ListBox& record, QWidget* control) {
+    auto* view = qobject_cast<QListView*>(control);
+    if (!view) return;
+    auto* model = static_cast<ListBoxModel*>(view->model());
+    model->Show(record.List);
+    const auto selected = model->index(record.ListIndex);
+    if (view->currentIndex() != selected) view->setCurrentIndex(selected);
+}
+
 void Show(const PictureBox& record, QWidget* control) {
     if (auto* label = qobject_cast<QLabel*>(control)) {
         label->setPixmap(CellPixmap(record.Picture, PreviewPixels, control->devicePixelRatioF()));
@@ -145,6 +167,11 @@ void Take(ComboBox& record, QWidget* control) {
     control->setProperty("chosen", {});
 }
 
+void Take(ListBox& record, QWidget* control) {
+    if (auto* view = qobject_cast<QListView*>(control))
+        record.ListIndex = view->currentIndex().row();
+}
+
 void Take(ScrollBar& record, QWidget* control) {
     if (auto* slider = qobject_cast<QAbstractSlider*>(control)) {
         record.Value = static_cast<std::int16_t>(slider->value());
@@ -164,6 +191,15 @@ void NameControl(FormView& view, const ControlRow& row) {
     if (auto* control = view.findChild<QWidget*>(inLayout)) control->setObjectName(name);
 }
 
+/// True when the form has a list that nothing is selected in.
+bool LacksSelection(const Form& form) {
+    for (const auto& row : form.Controls) {
+        const auto* list = std::get_if<ListBox*>(&row.Record);
+        if (list && (*list)->ListIndex < 0) return true;
+    }
+    return false;
+}
+
 void TakeAll(const FormView& view, const Form& form) {
     for (const auto& row : form.Controls) {
         if (auto* control = ControlOf(view, row)) {
@@ -177,18 +213,26 @@ void TakeAll(const FormView& view, const Form& form) {
 FormView::FormView(const Form& form, QWidget* parent) : QDialog(parent), form_(form) {
     setObjectName(ToScreen(form.Name));
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint);
+    setWindowFlag(Qt::WindowCloseButtonHint, form.Closed != nullptr);
     if (const auto* list = FindOptionList(form.Name)) {
         SetUpOptionList(*list, this);
     } else {
         SetUpLayout(objectName(), this);
     }
-    if (layout()) layout()->setSizeConstraint(QLayout::SetFixedSize);
+    if (layout() && layout()->sizeConstraint() == QLayout::SetDefaultConstraint) {
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
     for (const auto& row : form.Controls) NameControl(*this, row);
     for (const auto& row : form.Controls) {
         if (auto* control = ControlOf(*this, row)) Connect(row, control);
     }
     for (const char* name : {"cmdOK", "cmd"}) {
         if (auto* ok = findChild<QPushButton*>(name)) ok->setDefault(true);
+    }
+    for (const char* name : {"lblName", "lblHelp"}) {
+        if (auto* label = findChild<QLabel*>(name)) {
+            label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+        }
     }
     if (objectName() == "frmAbout") RunAboutTimer();
     openForms.append(this);
@@ -214,6 +258,8 @@ void FormView::Connect(const ControlRow& row, QWidget* control) {
             list->setProperty("chosen", item->text());
             run();
         });
+    } else if (auto* view = qobject_cast<QListView*>(control)) {
+        ConnectList(view, run);
     } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
         connect(button, &QAbstractButton::clicked, this, run);
     } else if (auto* slider = qobject_cast<QAbstractSlider*>(control)) {
@@ -221,14 +267,23 @@ void FormView::Connect(const ControlRow& row, QWidget* control) {
     }
 }
 
+/// A selection by hand runs the handler once the list is done with the click or key, since the
+/// handler may ask something. A double click presses OK.
+void FormView::ConnectList(QListView* view, const std::function<void()>& run) {
+    view->setModel(new ListBoxModel(view));
+    connect(view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [=, this] {
+        if (!view->signalsBlocked()) QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
+    });
+    connect(view, &QListView::doubleClicked, this, [this] {
+        if (auto* ok = findChild<QPushButton*>("cmdOK")) ok->click();
+    });
+}
+
 /// The line of the About dialog moves on while the dialog shows.
 void FormView::RunAboutTimer() {
     auto* timer = new QTimer(this);
     connect(timer, &QTimer::timeout, this, [] { Dispatch(frmAbout_Timer1_Timer); });
     timer->start(frmAbout.Timer1);
-    if (auto* line = findChild<QLabel*>("lblName")) {
-        line->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    }
 }
 
 void FormView::Refresh() {
@@ -237,6 +292,8 @@ void FormView::Refresh() {
         return;
     }
     setWindowTitle(ToScreen(form_.State->Caption));
+    const auto pointer = PointerShape(form_.State->MousePointer);
+    if (cursor().shape() != pointer) setCursor(pointer);
     for (const auto& row : form_.Controls) {
         auto* control = ControlOf(*this, row);
         if (!control) continue;
@@ -246,10 +303,17 @@ void FormView::Refresh() {
     if (objectName() == "frmPrefs") update();
 }
 
-/// Escape presses Cancel where a form has it, and does nothing elsewhere: no box dialog can be left
-/// without an answer.
+/// Escape presses Cancel where a form has it, or closes a form that can be closed, and does nothing
+/// elsewhere: no box dialog can be left without an answer.
 void FormView::reject() {
     if (auto* cancel = findChild<QPushButton*>("cmdCancel")) cancel->click();
+    if (form_.Closed) Dispatch(form_.Closed);
+}
+
+/// Enter is a choice, so that it does nothing where nothing is chosen.
+void FormView::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isEnter || !LacksSelection(form_)) QDialog::keyPressEvent(event);
 }
 
 /// The sample line of the preferences is the only thing that a form draws by itself.
@@ -262,9 +326,18 @@ void FormView::paintEvent(QPaintEvent* event) {
 
 void FormView::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    if (form_.Activated)
-        QMetaObject::invokeMethod(
-            this, [this] { Dispatch(form_.Activated); }, Qt::QueuedConnection);
+    if (form_.Activated) QMetaObject::invokeMethod(this, &FormView::Activate, Qt::QueuedConnection);
+}
+
+/// What a form does by itself lets nothing else in, so that the form has to be on the screen
+/// before.
+void FormView::Activate() {
+    const QDeadlineTimer patience(500);
+    while (!windowHandle()->isExposed() && !patience.hasExpired()) {
+        QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+        QThread::msleep(2);
+    }
+    Dispatch(form_.Activated);
 }
 
 void RefreshForms() {

@@ -5,6 +5,8 @@
 
 #include "platform/form.h"
 
+class QListView;
+
 namespace quorvane {
 
 /// A dialog on the screen: the layout of the form's name with the controls of its table. What the
@@ -18,12 +20,15 @@ public:
 
 protected:
     void reject() override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
 
 private:
     void Connect(const ControlRow& row, QWidget* control);
+    void ConnectList(QListView* view, const std::function<void()>& run);
     void RunAboutTimer();
+    void Activate();
 
     const Form& form_;
 };

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/application.h"
 
+#include "catalogue/command_browser_door.h"
 #include "catalogue/icon_table.h"
 #include "catalogue/matrix_input.h"
 #include "diagram/box_info.h"
@@ -15,6 +16,8 @@
 #include "generator/compile_document.h"
 #include "generator/front.h"
 #include "generator/output_targets.h"
+#include "matlab_link/command_browser.h"
+#include "matlab_link/mfile_index.h"
 #include "matlab_link/start_matlab.h"
 #include "platform/file_table.h"
 #include "shell/help.h"
@@ -36,6 +39,8 @@ void ResetApplication() {
     lastRunEnd = RunEnd::None;
     lastLoad = {};
     icons = {};
+    ResetMFileIndex();
+    OpenCommandBrowser = ShowCommandBrowser;
     ProgramDirectory.clear();
     TourStep = 0;
     frmAbout = {};
@@ -44,10 +49,12 @@ void ResetApplication() {
     frmDirectory = {};
     frmDisclaimer = {};
     frmInfo = {};
+    frmMatlab = {};
     frmMatrix = {};
     frmPageView = {};
     frmPictures = {};
     frmPrefs = {};
+    frmScanning = {};
     frmSplash = {};
     frmTextResults = {};
 }

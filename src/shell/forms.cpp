@@ -8,6 +8,8 @@
 #include "catalogue/plot_box.h"
 #include "diagram/box_info.h"
 #include "diagram/comment_form.h"
+#include "matlab_link/command_browser.h"
+#include "matlab_link/mfile_index.h"
 #include "matlab_link/start_matlab.h"
 #include "shell/help.h"
 #include "shell/preferences_command.h"
@@ -24,6 +26,7 @@ const std::vector<Form>& Forms() {
             frmPlot_Table(),       frmSplit_Table(),          frmSubs_Table(),
             frmUserInput_Table(),  frmAbout_Table(),          frmDisclaimer_Table(),
             frmPrefs_Table(),      frmDirectory_Table(),      frmConfigToolbox_Table(),
+            frmMatlab_Table(),     frmScanning_Table(),
         };
         for (const auto& list : optionLists) all.push_back(OptionList_Table(list));
         return all;

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string_view>
+
+#include "platform/controls.h"
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// The dialog in which the user picks a MATLAB function from the index of M-files. What is picked
+/// goes to the dialog that opened it.
+struct MatlabForm {
+    FormState Form = {.Caption = "Select a Matlab Command"};
+    ComboBox cmbCategory;
+    ListBox lstFunc;  ///< The paths of the M-files of the category
+    Label lblHelp;    ///< The help text of the selected one
+    Button cmdRescn = {.Caption = "Rescan drives"};
+    Button cmdOK = {.Caption = "OK"};
+    Label lblcaller = {.Caption = "mat", .Visible = false};  ///< Who opened it: "mat" or "func"
+};
+extern MatlabForm frmMatlab;
+
+/// Reads the index unless that has been done, and fills the categories with those that have files.
+/// Without an index the drives are scanned first. The last line of the index is never read.
+void frmMatlab_Load();
+/// Lists the files in whose path that of the category occurs, those of folders below it included.
+void frmMatlab_cmbCategory_Click();
+/// Shows the comment that stands first in the selected file, or asks whether to scan again when it
+/// can't be read. A line that commas part is put together again with a blank for each.
+void frmMatlab_lstFunc_Click();
+/// Scans the drives. The categories of the dialog stay as they were until it is opened again.
+void frmMatlab_cmdRescn_Click();
+/// Hands the name of the selected function, or "" when none is selected, to who opened the dialog.
+void frmMatlab_cmdOK_Click();
+/// The user closes the window: nothing is handed over.
+void frmMatlab_Close();
+Form frmMatlab_Table();
+
+/// Loads the dialog for a caller, "mat" or "func", with the hourglass as pointer, and shows it. It
+/// is what OpenCommandBrowser stands for.
+void ShowCommandBrowser(std::string_view caller);
+
+}  // namespace quorvane
