@@ -81,7 +81,7 @@ void AcceptByItself() {
 /// Error 53 when none of the programs is there.
 std::string FindProgram(const std::string& folder) {
     for (const auto& name : programs) {
-        const auto path = FindInFolder(folder, name);
+        auto path = FindInFolder(folder, name);
         if (Attempt([&] { FileAttributes(path); })) return path;
     }
     throw RuntimeError(53);
@@ -131,7 +131,9 @@ Form frmDirectory_Table() {
              {"Drive1", &frmDirectory.Drive1, frmDirectory_Drive1_Change},
              {"Dir1", &frmDirectory.Dir1, frmDirectory_Dir1_Change},
              {"director", &frmDirectory.director},
-             {"cmdOK", &frmDirectory.cmdOK, frmDirectory_cmdOK_Click}}};
+             {"cmdOK", &frmDirectory.cmdOK, frmDirectory_cmdOK_Click}},
+            nullptr,
+            frmDirectory_cmdOK_Click};
 }
 
 void mnuFileStartMatlab_Click() {

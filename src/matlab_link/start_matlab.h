@@ -7,7 +7,8 @@
 namespace quorvane {
 
 /// The dialog that asks for a folder. Where the user goes in it, the process's current directory
-/// goes too. There is no Cancel: the folder that was last gone to is the answer.
+/// goes too. There is no Cancel: the folder that was last gone to is the answer,
+/// also where the user just closes the window.
 struct DirectoryForm {
     FormState Form = {.Caption = "Quorvane"};
     Label lblTop = {.Caption = "Please locate the Quorvane directory"};  ///< The question

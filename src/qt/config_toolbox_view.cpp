@@ -6,6 +6,8 @@
 #include <QDragEnterEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
 
 #include "diagram/worksheet_events.h"
 #include "qt/dispatch.h"
@@ -20,6 +22,7 @@ namespace {
 
 constexpr const char* TileMimeType = "application/x-quorvane-catalogue-icon";
 constexpr int PageTiles = 18;
+constexpr int RowTiles = 6;
 
 }  // namespace
 
@@ -28,6 +31,8 @@ IconTile::IconTile(const QString& name, QWidget* holder) : QLabel(holder) {
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
     setAlignment(Qt::AlignCenter);
+    // The first icon put behind a loaded file lies on the file's last one and hides it.
+    setAutoFillBackground(true);
 }
 
 void IconTile::ShowCell(int cell) {
@@ -60,7 +65,14 @@ void IconTile::mouseMoveEvent(QMouseEvent* event) {
     auto* drag = new QDrag(this);
     drag->setMimeData(carried);
     drag->setPixmap(CellPixmap(cell_, width(), devicePixelRatioF()));
+    drag->setHotSpot(pressedAt_);
     drag->exec(Qt::CopyAction);
+}
+
+void IconTile::focusInEvent(QFocusEvent* event) {
+    QLabel::focusInEvent(event);
+    update();
+    if (Entered) Entered();
 }
 
 void IconTile::keyPressEvent(QKeyEvent* event) {
@@ -79,12 +91,28 @@ ConfigToolboxView::ConfigToolboxView(const Form& form, QWidget* parent) : FormVi
     panel_ = findChild<QWidget*>("pnlToolbox");
     panel_->setAcceptDrops(true);
     panel_->installEventFilter(this);
+    scroll_ = findChild<QScrollBar*>("scroll");
+    MakeCatalogue();
+    // From the catalogue to the file, the panel's icons and the buttons.
+    catalogue_[1]->setFocus();
+    QWidget* before = catalogue_.back();
+    for (const char* name : {"opnFileName", "chkClear", "chkReload", "cmdOK", "cmdCancel"}) {
+        auto* control = findChild<QWidget*>(name);
+        setTabOrder(before, control);
+        before = control;
+    }
+}
+
+void ConfigToolboxView::MakeCatalogue() {
     catalogue_.push_back(nullptr);
     for (int i = 1; i <= PageTiles; ++i) {
         auto* tile = new IconTile(QString("cmdPict(%1)").arg(i), page_);
         tile->setGeometry(ToPixels(frmConfigToolbox.cmdPict[i].Place));
         tile->Carried = QByteArray::number(i);
-        tile->Entered = [i] { Dispatch([i] { frmConfigToolbox_cmdPict_MouseMove(i); }); };
+        tile->Entered = [i, tile] {
+            Dispatch([i] { frmConfigToolbox_cmdPict_MouseMove(i); });
+            tile->setAccessibleName(ToScreen(frmConfigToolbox.lblFunction.Caption));
+        };
         tile->Chosen = [i] {
             Dispatch([i] {
                 frmConfigToolbox_cmdPict_MouseMove(i);
@@ -122,11 +150,49 @@ void ConfigToolboxView::RefreshPanel() {
             tile->Pressed = [i](Qt::MouseButton button) {
                 Dispatch([&] { frmConfigToolbox_cmdButton_MouseDown(i, ButtonNumber(button)); });
             };
+            auto* before = icons_[static_cast<std::size_t>(i) - 1];
+            setTabOrder(before ? before : findChild<QWidget*>("chkReload"), tile);
             tile->show();
         }
         tile->setGeometry(ToPixels(records[i].Place));
         tile->ShowCell(records[i].Picture);
     }
+}
+
+/// Goes from an icon of the catalogue to another one; beyond the page's edge the page moves on.
+void ConfigToolboxView::Walk(int tile, int step) {
+    const int to = tile + step;
+    if (to >= 1 && to <= PageTiles) {
+        auto* next = catalogue_[static_cast<std::size_t>(to)];
+        if (next->focusPolicy() != Qt::NoFocus) next->setFocus(Qt::TabFocusReason);
+        return;
+    }
+    scroll_->triggerAction(step > 0 ? QScrollBar::SliderSingleStepAdd
+                                    : QScrollBar::SliderSingleStepSub);
+    catalogue_[static_cast<std::size_t>(tile)]->Entered();
+}
+
+void ConfigToolboxView::keyPressEvent(QKeyEvent* event) {
+    const auto at = std::find(catalogue_.begin() + 1, catalogue_.end(), focusWidget());
+    const int tile = static_cast<int>(at - catalogue_.begin());
+    int step = 0;
+    if (event->key() == Qt::Key_Left) step = -1;
+    if (event->key() == Qt::Key_Right) step = 1;
+    if (event->key() == Qt::Key_Up) step = -RowTiles;
+    if (event->key() == Qt::Key_Down) step = RowTiles;
+    if (step != 0 && at != catalogue_.end()) {
+        Walk(tile, step);
+    } else {
+        FormView::keyPressEvent(event);
+    }
+}
+
+/// The wheel turns the catalogue's pages, wherever the pointer is.
+void ConfigToolboxView::wheelEvent(QWheelEvent* event) {
+    turned_ += event->angleDelta().y();
+    const int rows = turned_ / QWheelEvent::DefaultDeltasPerStep;
+    turned_ -= rows * QWheelEvent::DefaultDeltasPerStep;
+    scroll_->setValue(scroll_->value() - rows);
 }
 
 bool ConfigToolboxView::eventFilter(QObject* watched, QEvent* event) {

@@ -7,6 +7,8 @@
 
 #include "qt/form_view.h"
 
+class QScrollBar;
+
 namespace quorvane {
 
 /// An icon of the catalogue page or of the panel.
@@ -15,7 +17,7 @@ public:
     IconTile(const QString& name, QWidget* holder);
     void ShowCell(int cell);
 
-    std::function<void()> Entered;  ///< The pointer moves over it
+    std::function<void()> Entered;  ///< The pointer moves over it, or the focus comes to it
     std::function<void(Qt::MouseButton)> Pressed;
     std::function<void()> Chosen;  ///< Enter
     QByteArray Carried;            ///< What a drag of it carries; none when empty
@@ -23,6 +25,7 @@ public:
 protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
@@ -32,7 +35,8 @@ private:
 };
 
 /// The dialog in which a toolbox is built: the icons of a page are dragged into the panel. By
-/// keyboard, Enter puts the icon in, and Delete takes one out.
+/// keyboard, the arrows walk through the catalogue, Enter puts the icon in, and Delete takes one
+/// out.
 class ConfigToolboxView : public FormView {
 public:
     ConfigToolboxView(const Form& form, QWidget* parent);
@@ -40,14 +44,20 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
 
 private:
+    void MakeCatalogue();
     void RefreshPanel();
+    void Walk(int tile, int step);
 
     QWidget* page_;
+    QScrollBar* scroll_;
     QWidget* panel_;
     std::vector<IconTile*> catalogue_;
     std::vector<IconTile*> icons_;  ///< Of the panel, by their index
+    int turned_ = 0;                ///< What the wheel has turned short of a row
 };
 
 }  // namespace quorvane

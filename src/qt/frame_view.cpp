@@ -8,6 +8,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScreen>
 
 #include "files/close_document.h"
 #include "qt/dispatch.h"
@@ -67,7 +68,9 @@ FrameView::FrameView() {
     documentMenus_ = MakeDocumentMenus(this);
     connect(area_, &QMdiArea::subWindowActivated, this, &FrameView::Activated);
     RefreshScreen = [this] { Refresh(); };
-    resize(1000, 720);
+    const auto screenArea = screen()->availableGeometry();
+    resize(QSize(1000, 720).boundedTo(screenArea.size()));
+    move(screenArea.center() - rect().center());
     Refresh();
 }
 

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QSplitter>
+#include <QStatusBar>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -21,6 +22,8 @@ namespace quorvane {
 namespace {
 
 enum HelpCommand { Quit = 2, Contents = 3, HowTo = 4, Search = 261 };
+
+constexpr int TextMargin = 14;
 
 const char* const HowToText =
     "<h2>How to use the help</h2>"
@@ -64,9 +67,12 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
     bar->addWidget(label);
     bar->addWidget(search_);
     connect(search_, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
-    connect(contents_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
+    const auto read = [this](QTreeWidgetItem* item) {
         if (item) text_->scrollToAnchor(item->data(0, Qt::UserRole).toString());
-    });
+    };
+    connect(contents_, &QTreeWidget::currentItemChanged, this, read);
+    // Also the page that is chosen already, to come back to its beginning.
+    connect(contents_, &QTreeWidget::itemClicked, this, read);
     resize(920, 680);
 }
 
@@ -75,6 +81,7 @@ bool HelpWindow::Open(const std::string& file) {
     if (!manual.open(QIODevice::ReadOnly)) return false;
     text_->setSearchPaths({QFileInfo(manual).absolutePath()});
     text_->setHtml(QString::fromUtf8(manual.readAll()));
+    text_->document()->setDocumentMargin(TextMargin);
     FillContents();
     return true;
 }
@@ -106,6 +113,7 @@ void HelpWindow::ShowContents() { text_->moveCursor(QTextCursor::Start); }
 void HelpWindow::ShowHowTo() {
     contents_->clear();
     text_->setHtml(HowToText);
+    text_->document()->setDocumentMargin(TextMargin);
 }
 
 void HelpWindow::ShowSearch() {
@@ -114,9 +122,14 @@ void HelpWindow::ShowSearch() {
 }
 
 void HelpWindow::FindNext() {
-    if (search_->text().isEmpty() || text_->find(search_->text())) return;
+    const auto word = search_->text();
+    statusBar()->clearMessage();
+    if (word.isEmpty() || text_->find(word)) return;
+    const auto place = text_->textCursor();
     text_->moveCursor(QTextCursor::Start);
-    text_->find(search_->text());
+    if (text_->find(word)) return;
+    text_->setTextCursor(place);
+    statusBar()->showMessage(QString("The help doesn't have \"%1\"").arg(word));
 }
 
 void RunHelpCommand(const std::string& file, int command) {

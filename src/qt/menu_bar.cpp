@@ -61,7 +61,10 @@ void RefreshMenus(const MenuSet& set, const Rows& rows, const Records& records) 
         const auto* record = MenuRecord(records, rows[i].Control, rows[i].Index);
         if (!record) continue;
         auto* action = set.Actions[static_cast<int>(i)];
-        if (!record->Caption.empty()) action->setText(ToScreen(record->Caption));
+        // A record's caption is a file's name, in which "&" marks no letter.
+        if (!record->Caption.empty()) {
+            action->setText(ToScreen(record->Caption).replace("&", "&&"));
+        }
         action->setCheckable(record->Checked);
         action->setChecked(record->Checked);
         action->setVisible(record->Visible);

@@ -7,6 +7,7 @@
 
 #include "qt/dispatch.h"
 #include "qt/icon_strip.h"
+#include "qt/menu_bar.h"
 #include "qt/screen_units.h"
 #include "toolbox/toolbox.h"
 
@@ -17,6 +18,9 @@ namespace {
 /// What the record's size counts beyond the buttons: the window's frame and title.
 constexpr double FrameWidth = 70;
 constexpr double FrameHeight = 360;
+/// Where the toolbox comes first: from the frame's right and upper edge, clear of the menus and of
+/// a worksheet's scroll bar.
+constexpr QPoint FirstPlace(40, 80);
 
 }  // namespace
 
@@ -37,7 +41,13 @@ void ToolboxView::Refresh() {
     if (size() != inner && inner.isValid()) resize(inner);
     following_ = false;
     RefreshButtons();
-    if (isVisible() != form.Form.Visible) setVisible(form.Form.Visible);
+    if (isVisible() == form.Form.Visible) return;
+    if (!placed_) {
+        const auto frame = parentWidget()->geometry();
+        move(frame.right() - FirstPlace.x() - width(), frame.top() + FirstPlace.y());
+        placed_ = true;
+    }
+    setVisible(form.Form.Visible);
 }
 
 void ToolboxView::RefreshButtons() {
@@ -65,17 +75,23 @@ void ToolboxView::RefreshButtons() {
         button->setGeometry(ToPixels(record.Place));
         button->setToolTip(key);
         button->setAccessibleName(key);
-        if (button->property("picture") != record.Picture) {
+        const int side = qMin(button->width(), button->height()) - 4;
+        const QSize face(side, side);
+        if (button->property("picture") != record.Picture || button->iconSize() != face) {
             button->setProperty("picture", record.Picture);
-            button->setIconSize(button->size() - QSize(4, 4));
-            button->setIcon(CellPixmap(record.Picture, button->width() - 4, devicePixelRatioF()));
+            button->setIconSize(face);
+            button->setIcon(CellPixmap(record.Picture, side, devicePixelRatioF()));
         }
     }
 }
 
 void ToolboxView::closeEvent(QCloseEvent* event) {
     event->ignore();
-    Dispatch([] { UnloadToolbox(); });
+    // The worksheet, which comes to the front by this, takes the frame's mark over.
+    Dispatch([] {
+        UnloadToolbox();
+        if (activeDocument > 0) main_Activate(DocumentWindow(activeDocument));
+    });
 }
 
 void ToolboxView::resizeEvent(QResizeEvent*) {

@@ -41,6 +41,7 @@ void TourView::Refresh(const TourPanel& panel) {
         raise();
     }
     if (isVisibleTo(parentWidget()) != panel.Visible) {
+        if (hasFocus()) parentWidget()->setFocus();
         setVisible(panel.Visible);
         if (panel.Visible) setFocus();
     }

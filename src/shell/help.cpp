@@ -74,7 +74,9 @@ Form frmAbout_Table() {
             &frmAbout.Form,
             {{"Label1", &frmAbout.Label1},
              {"lblName", &frmAbout.lblName},
-             {"cmdOK", &frmAbout.cmdOK, frmAbout_cmdOK_Click}}};
+             {"cmdOK", &frmAbout.cmdOK, frmAbout_cmdOK_Click}},
+            nullptr,
+            frmAbout_cmdOK_Click};
 }
 
 void mnuHelpDisclaimer_Click() {
@@ -90,7 +92,9 @@ Form frmDisclaimer_Table() {
     return {"frmDisclaimer",
             &frmDisclaimer.Form,
             {{"Label1", &frmDisclaimer.Label1},
-             {"cmdOK", &frmDisclaimer.cmdOK, frmDisclaimer_cmdOK_Click}}};
+             {"cmdOK", &frmDisclaimer.cmdOK, frmDisclaimer_cmdOK_Click}},
+            nullptr,
+            frmDisclaimer_cmdOK_Click};
 }
 
 }  // namespace quorvane

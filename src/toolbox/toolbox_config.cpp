@@ -248,7 +248,11 @@ void frmConfigToolbox_chkReload_Click() {
     frmConfigToolbox.chkReload.Value = 0;
 }
 
-void frmConfigToolbox_opnFileName_Click() { AskForFile(); }
+void frmConfigToolbox_opnFileName_Click() {
+    // The only option there is: a second click doesn't take it off.
+    frmConfigToolbox.opnFileName.Value = true;
+    AskForFile();
+}
 
 void frmConfigToolbox_cmdOK_Click() {
     if (!SavePanelOrTell()) return;

@@ -156,6 +156,8 @@ void Program::Open(void (*start)()) {
     frame_.reset();
     ResetApplication();
     frame_ = std::make_unique<FrameView>();
+    // The same size on every screen, be it too small for it.
+    frame_->resize(1000, 720);
     Dispatch(start);
     frame_->show();
     if (!QTest::qWaitForWindowActive(frame_.get())) Fail("The frame doesn't come to the screen");
