@@ -116,10 +116,9 @@ std::string PieElement(const DrawnShape& pie) {
     const auto rim = [&](double angle) {
         return Point(x + radius * std::cos(angle), y - radius * std::sin(angle));
     };
-    return "<path" + Attribute("stroke", ColorText(pie.Color)) +
-           " fill=\"#000000\" d=\"M" + Point(x, y) + " L" + rim(start) + " A" +
-           Point(radius, radius) + " 0 " + (sweep > std::numbers::pi ? "1" : "0") + " 0 " +
-           rim(start + sweep) + " Z\"/>\n";
+    return "<path" + Attribute("stroke", ColorText(pie.Color)) + " fill=\"#000000\" d=\"M" +
+           Point(x, y) + " L" + rim(start) + " A" + Point(radius, radius) + " 0 " +
+           (sweep > std::numbers::pi ? "1" : "0") + " 0 " + rim(start + sweep) + " Z\"/>\n";
 }
 
 /// The numbers of the document's boxes that show on the sheet, in the order in which they lie.

@@ -7,8 +7,8 @@ namespace quorvane {
 
 /// True when every block that a script opens ("for", "if", "while", "switch", "try", "function" and
 /// their kin) is closed in it. Strings, comments, brackets (where "end" is an index) and fields
-/// ("x.end") are passed over. A script with an "end" too many counts as closed: it is for the engine
-/// to complain about.
+/// ("x.end") are passed over. A script with an "end" too many counts as closed: it is for the
+/// engine to complain about.
 bool BlocksAreClosed(std::string_view script);
 
 }  // namespace quorvane

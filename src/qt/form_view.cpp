@@ -47,6 +47,7 @@ void Show(const Label& record, QWidget* control) {
     const auto text = ToScreen(record.Caption).replace("\r\n", "\n");
     auto* label = qobject_cast<QLabel*>(control);
     if (label && label->text() != text) {
+        label->setTextFormat(Qt::PlainText);
         label->setText(text);
         // A text that scrolls begins at its beginning.
         auto* area = qobject_cast<QScrollArea*>(label->parentWidget()->parentWidget());
@@ -310,10 +311,12 @@ void FormView::reject() {
     if (form_.Closed) Dispatch(form_.Closed);
 }
 
-/// Enter is a choice, so that it does nothing where nothing is chosen.
+/// Enter is a choice, so that it does nothing where nothing is chosen; in a list of folders it goes
+/// into one.
 void FormView::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!isEnter || !LacksSelection(form_)) QDialog::keyPressEvent(event);
+    const bool isTaken = qobject_cast<QListWidget*>(focusWidget()) || LacksSelection(form_);
+    if (!isEnter || !isTaken) QDialog::keyPressEvent(event);
 }
 
 /// The sample line of the preferences is the only thing that a form draws by itself.
@@ -321,7 +324,9 @@ void FormView::paintEvent(QPaintEvent* event) {
     QDialog::paintEvent(event);
     if (objectName() != "frmPrefs") return;
     QPainter painter(this);
-    PaintShapes(painter, frmPrefs.Surface, frmPrefs.DrawWidth);
+    auto line = frmPrefs.Surface;
+    for (auto& shape : line) shape.Color = ColorNumber(palette().color(QPalette::WindowText));
+    PaintShapes(painter, line, frmPrefs.DrawWidth);
 }
 
 void FormView::showEvent(QShowEvent* event) {
