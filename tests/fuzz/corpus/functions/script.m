@@ -1,0 +1,4 @@
+%{
+for
+%}
+x=a';if x(end), y="end";
