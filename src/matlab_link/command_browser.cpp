@@ -150,11 +150,12 @@ void frmMatlab_Load() {
 }
 
 void frmMatlab_cmbCategory_Click() {
-    const auto chosen = UpperCase(frmMatlab.cmbCategory.Text);
+    const auto& text = frmMatlab.cmbCategory.Text;
     auto& list = frmMatlab.lstFunc;
     list = {};
     std::string path;
-    if (chosen != UpperCase(AllFiles)) {
+    if (text != AllFiles) {
+        const auto chosen = UpperCase(text);
         int found = 2;
         while (found <= CategoryTable.UpperBound() &&
                UpperCase(CategoryTable[found].name) != chosen) {

@@ -115,8 +115,8 @@ std::string GetPrivateProfileString(std::string_view section, std::string_view k
                                     const std::string& defaultText, const std::string& file) {
     const auto lines = ReadLines(FindFile(file));
     if (!lines) return defaultText;
-    auto place = FindKey(*lines, section, key);
-    return place.Line ? std::move(place.Value) : defaultText;
+    const auto place = FindKey(*lines, section, key);
+    return place.Line ? std::string(place.Value) : defaultText;
 }
 
 void WritePrivateProfileString(std::string_view section, std::string_view key,

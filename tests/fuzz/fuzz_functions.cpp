@@ -16,6 +16,8 @@ using namespace quorvane::testing;
 
 namespace {
 
+constexpr const char* AllFiles = "zzz All M files zzz";
+
 std::vector<std::string> FilesWith(const std::string& path) {
     std::vector<std::string> files;
     for (int i = 2; i <= FileList.UpperBound(); ++i) {
@@ -32,7 +34,7 @@ void CheckCategories() {
         expected.push_back(UpperCase(name.substr(0, 1)) +
                            LowerCase(name.empty() ? name : name.substr(1)));
     }
-    expected.emplace_back("zzz All M files zzz");
+    expected.emplace_back(AllFiles);
     Check(frmMatlab.cmbCategory.List == expected, "other categories than a search finds");
 }
 
@@ -40,7 +42,7 @@ void CheckChoice(const std::string& category) {
     frmMatlab.cmbCategory.Text = category;
     frmMatlab_cmbCategory_Click();
     std::string path;
-    for (int i = CategoryTable.UpperBound(); i >= 2; --i) {
+    for (int i = CategoryTable.UpperBound(); i >= 2 && category != AllFiles; --i) {
         const auto& row = CategoryTable[i];
         if (UpperCase(row.name) == UpperCase(category)) path = row.path;
     }
