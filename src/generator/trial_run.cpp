@@ -5,8 +5,8 @@
 #include "diagram/worksheet.h"
 #include "generator/compile_document.h"
 #include "generator/front.h"
-#include "platform/desktop.h"
 #include "platform/numbers.h"
+#include "platform/quiet_desktop.h"
 
 namespace quorvane {
 
@@ -19,45 +19,16 @@ int UndoneFeeder(int box) {
     return 0;
 }
 
-/// A desktop without anybody before it.
-struct DeadDesktop : Desktop {
+/// Sees what waits when the run stops.
+struct WatchingDesktop : QuietDesktop {
     TrialEnd* End = nullptr;
 
     Answer MsgBox(const Message& message) override {
-        if (message.Choice != Buttons::AbortRetryIgnore) return Answer::Ok;
-        for (int slot = 1; slot <= frontWidth; ++slot) {
+        const auto answer = QuietDesktop::MsgBox(message);
+        for (int slot = 1; slot <= frontWidth && answer == Answer::Abort; ++slot) {
             if (Front[slot] > 0) End->Waiting.push_back({Front[slot], UndoneFeeder(Front[slot])});
         }
-        return Answer::Abort;
-    }
-    std::string InputBox(const std::string&, const std::string&, const std::string& text) override {
-        return text;
-    }
-    std::string OpenFileDialog(const std::string&, const std::string&) override {
-        throw RuntimeError(32755);
-    }
-    std::string SaveFileDialog(const std::string&, const std::string&) override {
-        throw RuntimeError(32755);
-    }
-    std::int32_t ColorDialog(std::int32_t start) override { return start; }
-    void ShowModal(std::string_view) override {}
-    void PopupMenu(std::string_view) override {}
-    void ArrangeWindows(int) override {}
-    void SetClipboardText(const std::string&) override {}
-    int ClockSeconds() override { return 0; }
-    void PaintNow() override {}
-    void Help(const std::string&, int) override {}
-    void StartProcess(const std::string&) override {}
-    void EndProgram() override {}
-    void LinkOpen() override {}
-    void LinkExecute(const std::string&) override {}
-    std::string LinkRequest() override { return ""; }
-    std::string LinkFinish() override { return ""; }
-    void StartMatlab() override {}
-    std::string ReadStore(const std::string&, const std::string&) override { return ""; }
-    void WriteStore(const std::string&, const std::string&, const std::string&) override {}
-    std::vector<std::pair<std::string, std::string>> ReadStoreSection(const std::string&) override {
-        return {};
+        return answer;
     }
 };
 
@@ -74,7 +45,7 @@ TrialEnd TryCompiling(int document) {
     auto* const person = desktop;
 
     TrialEnd end;
-    DeadDesktop nobody;
+    WatchingDesktop nobody;
     nobody.End = &end;
     desktop = &nobody;
     try {

@@ -7,14 +7,13 @@
 #include <string>
 #include <vector>
 
-#include "platform/desktop.h"
-#include "platform/runtime_error.h"
+#include "platform/quiet_desktop.h"
 
 namespace quorvane::testing {
 
 /// A desktop that answers as a test prepared it and keeps what it was asked. Without a prepared
 /// answer a question gets the refusing one: abort, cancel, no.
-struct ScriptedDesktop : Desktop {
+struct ScriptedDesktop : QuietDesktop {
     std::vector<Message> Messages;
     std::deque<Answer> MessageAnswers;     ///< Taken by messages with more than one button
     std::vector<std::string> Prompts;      ///< Title, "|", prompt, "|", default
@@ -43,15 +42,8 @@ struct ScriptedDesktop : Desktop {
 
     Answer MsgBox(const Message& message) override {
         Messages.push_back(message);
-        if (message.Choice == Buttons::Ok) return Answer::Ok;
-        if (MessageAnswers.empty()) {
-            switch (message.Choice) {
-                case Buttons::YesNo: return Answer::No;
-                case Buttons::YesNoCancel: return Answer::Cancel;
-                default: return Answer::Abort;
-            }
-        }
-        return Take(MessageAnswers);
+        const bool isPrepared = message.Choice != Buttons::Ok && !MessageAnswers.empty();
+        return isPrepared ? Take(MessageAnswers) : QuietDesktop::MsgBox(message);
     }
     std::string InputBox(const std::string& prompt, const std::string& title,
                          const std::string& defaultText) override {

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/desktop.h"
+#include "platform/runtime_error.h"
+
+namespace quorvane {
+
+/// A desktop without anybody before it: a question gets the refusing answer, or its default, a
+/// dialog is cancelled, and nothing is kept. What runs without a screen begins with it and puts its
+/// own answers in place.
+struct QuietDesktop : Desktop {
+    Answer MsgBox(const Message& message) override {
+        switch (message.Choice) {
+            case Buttons::YesNo: return Answer::No;
+            case Buttons::YesNoCancel: return Answer::Cancel;
+            case Buttons::AbortRetryIgnore: return Answer::Abort;
+            default: return Answer::Ok;
+        }
+    }
+    std::string InputBox(const std::string&, const std::string&, const std::string& text) override {
+        return text;
+    }
+    std::string OpenFileDialog(const std::string&, const std::string&) override {
+        throw RuntimeError(32755);
+    }
+    std::string SaveFileDialog(const std::string&, const std::string&) override {
+        throw RuntimeError(32755);
+    }
+    std::int32_t ColorDialog(std::int32_t) override { throw RuntimeError(32755); }
+    void ShowModal(std::string_view) override {}
+    void PopupMenu(std::string_view) override {}
+    void ArrangeWindows(int) override {}
+    void SetClipboardText(const std::string&) override {}
+    int ClockSeconds() override { return 0; }
+    void PaintNow() override {}
+    void Help(const std::string&, int) override {}
+    void StartProcess(const std::string&) override {}
+    void EndProgram() override {}
+    void LinkOpen() override {}
+    void LinkExecute(const std::string&) override {}
+    std::string LinkRequest() override { return ""; }
+    std::string LinkFinish() override { return ""; }
+    void StartMatlab() override {}
+    std::string ReadStore(const std::string&, const std::string&) override { return ""; }
+    void WriteStore(const std::string&, const std::string&, const std::string&) override {}
+    std::vector<std::pair<std::string, std::string>> ReadStoreSection(const std::string&) override {
+        return {};
+    }
+};
+
+}  // namespace quorvane
