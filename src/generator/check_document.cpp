@@ -79,6 +79,8 @@ void Reach(Check& check) {
     if (waiting.empty()) {
         ReportStop(check, 0, "No box starts the run, which says \"There are no inputs !\"",
                    "Begin with a Start box or an input box");
+        // What is wrong with the boxes themselves is told all the same.
+        check.Reached.assign(MaxBoxes + 1, true);
     }
     while (!waiting.empty()) {
         const auto box = static_cast<std::size_t>(waiting.back());
@@ -184,10 +186,8 @@ std::vector<Finding> CheckDocument(int document) {
         if (Boxes[i].BoxDocument == document) check.Own.push_back(i);
     }
     Reach(check);
-    if (!check.Stops) {
-        for (const int box : check.Own) CheckOne(check, box);
-        CheckBlocks(check);
-    }
+    for (const int box : check.Own) CheckOne(check, box);
+    CheckBlocks(check);
     if (!check.Stops) CheckRun(check);
     return check.Found;
 }
