@@ -3,7 +3,12 @@
 % because it ended the engine, the mark "u" stands in place of "e".
 % Nothing here lives where the script can change it: the name of this function is drawn by lot, and
 % its variables are its own.
+% Without a script it only looks after the figures.
 function RUN (file, id)
+  if nargin == 0
+    try, drawnow (); catch, end
+    return;
+  end
   persistent isOctave folder
   if isempty (folder)
     isOctave = exist ('OCTAVE_VERSION', 'builtin') > 0;
@@ -25,13 +30,16 @@ function tell (kind, id)
   mark = [char(10) char(1) 'TOKEN' kind ':' id char(1)];
   % The second way is for the case that the script made functions of the names of the first.
   try, builtin ('fprintf', 1, '%s', mark);  builtin ('fflush', 1); catch, end
-  if kind ~= 'b'
+  if kind ~= 'b' && kind ~= 'f'
     try, puts (mark);  fflush (1); catch, end
   end
 end
 
+% The link lets the engine look after its figures while it has nothing else to do.
 function showFigures ()
-  if ~isempty (builtin ('get', 0, 'children')), drawnow (); end
+  if isempty (builtin ('get', 0, 'children')), return; end
+  drawnow ();
+  tell ('f', '');
 end
 
 function complain (problem)

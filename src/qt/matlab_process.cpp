@@ -33,6 +33,7 @@ constexpr int NoApplicationAnswered = 282;
 constexpr int TickMilliseconds = 200;
 constexpr int ShowMilliseconds = 100;
 constexpr int GoingMilliseconds = 3000;
+constexpr int IdleMilliseconds = 300;
 constexpr int BreakSeconds = 5;
 constexpr qsizetype AnswerLimit = 8 << 20;
 
@@ -114,6 +115,9 @@ MatlabProcess::MatlabProcess() {
 #endif
     connect(&process_, &QProcess::readyRead, this, &MatlabProcess::Read);
     connect(&process_, &QProcess::finished, this, &MatlabProcess::Ended);
+    connect(&idle_, &QTimer::timeout, this, [this] {
+        if (!waiting_ && IsRunning()) process_.write("try," + token_ + "run;catch,end\n");
+    });
     shown_.start();
 }
 
@@ -155,6 +159,7 @@ void MatlabProcess::Start(const QString& chosen) {
     folder_ = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/quorvane-XXXXXX");
     token_ = "q" + QByteArray::number(QRandomGenerator::system()->generate64(), 16);
     kept_.clear();
+    idle_.stop();
     const auto name = QFileInfo(program).fileName();
     const auto* row = std::begin(engines);
     while (!name.startsWith(row->Name)) ++row;
@@ -224,8 +229,10 @@ void MatlabProcess::Wait() {
     if (!frmTextResults.lblState.Caption.empty()) ShowState("");
 }
 
+/// What comes between two scripts belongs to none.
 void MatlabProcess::Read() {
-    received_ += process_.readAll();
+    const auto fresh = process_.readAll();
+    if (waiting_) received_ += fresh;
     while (waiting_ && TakeMark()) {
     }
     if (waiting_) Limit();
@@ -251,6 +258,8 @@ bool MatlabProcess::TakeMark() {
     received_.remove(looked_, end + 1 - looked_);
     if (isQuestion) {
         Ask(kind, text);
+    } else if (kind == 'f') {
+        idle_.start(IdleMilliseconds);
     } else if (text == QByteArray::number(job_)) {
         TakeMarkOfJob(kind);
     }

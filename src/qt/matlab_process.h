@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <memory>
 #include <string>
 
@@ -71,6 +72,7 @@ private:
     QElapsedTimer running_;   ///< Since the script was sent
     QElapsedTimer stopping_;  ///< Since Escape; invalid without it
     int breaks_ = 0;          ///< How often the script was told to stop
+    QTimer idle_;             ///< Lets an idle engine look after its figures, once it has some
     QElapsedTimer shown_;     ///< Since the windows last took over the records
 };
 
