@@ -63,11 +63,12 @@ QString WithFigures(const QString& program) {
                                                                                : program;
 }
 
-void Signal(const QProcess& process, int signal) {
+/// To the engine and all that it runs; `group` is the number of the engine.
+void Signal(qint64 group, int signal) {
 #ifdef Q_OS_UNIX
-    if (process.processId() > 0) ::kill(static_cast<pid_t>(-process.processId()), signal);
+    if (group > 0) ::kill(static_cast<pid_t>(-group), signal);
 #else
-    Q_UNUSED(process);
+    Q_UNUSED(group);
     Q_UNUSED(signal);
 #endif
 }
@@ -126,9 +127,10 @@ MatlabProcess::~MatlabProcess() { Stop(); }
 /// An idle engine ends when its input does; what is left of its group then is killed.
 void MatlabProcess::Stop() {
     if (!IsRunning()) return;
+    const auto group = process_.processId();
     process_.closeWriteChannel();
     process_.waitForFinished(500);
-    Signal(process_, SIGKILL);
+    Signal(group, SIGKILL);
     process_.kill();
     process_.waitForFinished();
 }
@@ -203,8 +205,14 @@ QByteArray MatlabProcess::AddFolder() const { return "addpath(" + Quoted(folder_
 void MatlabProcess::Run(const std::string& script) {
     const auto id = QByteArray::number(++job_);
     QFile file(PathOf("step" + id));
-    if (!file.open(QFile::WriteOnly)) throw RuntimeError(NoApplicationAnswered);
-    file.write(script.data(), static_cast<qsizetype>(script.size()));
+    const auto size = static_cast<qint64>(script.size());
+    const bool isWritten =
+        file.open(QFile::WriteOnly) && file.write(script.data(), size) == size && file.flush();
+    if (!isWritten) {
+        // A part of a script must not run.
+        answer_ = "The script could not be written: " + file.errorString().toUtf8() + ".\n";
+        return;
+    }
     file.close();
     received_.clear();
     looked_ = leftOut_ = 0;
@@ -332,7 +340,7 @@ void MatlabProcess::Tick() {
         return ShowState("Matlab is working. Escape stops it.");
     }
     const auto seconds = static_cast<int>(stopping_.elapsed() / 1000);
-    if (seconds >= BreakSeconds) return Signal(process_, SIGKILL);
+    if (seconds >= BreakSeconds) return Signal(process_.processId(), SIGKILL);
     if (seconds >= breaks_) Interrupt();
     ShowState(QString("Stopping. Matlab is ended by force in %1 s.").arg(BreakSeconds - seconds));
 }
@@ -340,7 +348,7 @@ void MatlabProcess::Tick() {
 /// A break while the engine waits for a line takes effect with the next line. Where the first one
 /// doesn't help, the engine may stand in its debugger.
 void MatlabProcess::Interrupt() {
-    Signal(process_, SIGINT);
+    Signal(process_.processId(), SIGINT);
     process_.write(breaks_++ == 0 ? "\n" : "dbquit\n");
 }
 
