@@ -36,6 +36,13 @@ std::string BoxName(int number) {
     return name;
 }
 
+void FreeRecord(Box& box) {
+    Box free;
+    free.BoxLeft = box.BoxLeft;
+    free.BoxTop = box.BoxTop;
+    box = std::move(free);
+}
+
 void ResetBoxTable() {
     Boxes.Fill(Box());
     NextBox = 1;

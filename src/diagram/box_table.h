@@ -14,7 +14,8 @@ constexpr int MaxBoxes = 350;
 /// An entry or exit that its box type doesn't have.
 constexpr std::int16_t LockedSlot = -1;
 
-/// One step of a diagram. A free record has empty texts and 0 everywhere else.
+/// One step of a diagram. A free record has empty texts and 0 everywhere
+/// else, apart from the place of its last use.
 struct Box {
     std::string BoxType;  ///< The box type key, compared letter for letter; "" in a free record
     std::string BoxMark;  ///< "OK" once the generator has emitted the box; written by the generator
@@ -59,6 +60,9 @@ std::string BoxIconKey(int number);
 
 /// "box" and the number, the script variable of a box.
 std::string BoxName(int number);
+
+/// Makes a record free, but for its place: that of its last use stays.
+void FreeRecord(Box& box);
 
 void ResetBoxTable();
 

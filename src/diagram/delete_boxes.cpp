@@ -102,7 +102,7 @@ void Remove(const Deletion& d) {
         MoveControl(d);
     }
     if (d.Number == d.Last) Attempt([&] { DocumentWindow(d.Document).box.Unload(d.Number); });
-    Attempt([&] { Boxes[d.Last] = Box(); });
+    Attempt([&] { FreeRecord(Boxes[d.Last]); });
     for (const int document : {d.LastDocument, d.Document}) {
         Attempt([&] { DocumentStates[document].Modified = -1; });
     }

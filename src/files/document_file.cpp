@@ -141,7 +141,7 @@ bool ReadBoxes(Load& load, std::int16_t base, std::int16_t count) {
             return false;
         }
         Box& box = Boxes[i];
-        box = Box();
+        FreeRecord(box);
         const auto number = static_cast<std::int16_t>(i);
         ReadTypeAndText(load, box);
         ReadSlots(load, box, base);

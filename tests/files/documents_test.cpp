@@ -31,10 +31,12 @@ std::string PlainFile(int count) {
     return WithPlainBoxes(std::to_string(count) + "\r\n" + std::string(count, '@'));
 }
 
-/// A box record; "free" for one that is not in use.
+/// A box record; "free" for one that is not in use, wherever it was.
 std::string Record(int number) {
     const Box& box = Boxes[number];
-    if (box == Box()) return "free";
+    auto free = box;
+    FreeRecord(free);
+    if (box == free) return "free";
     std::ostringstream record;
     record << box.BoxType << "~" << box.BoxText << " in " << box.BoxDocument << " at "
            << box.BoxLeft << "," << box.BoxTop << " from";
