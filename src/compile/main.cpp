@@ -85,12 +85,7 @@ bool WriteOutput(const std::string& path, const std::string& text) {
         return std::fwrite(text.data(), 1, text.size(), stdout) == text.size() &&
                std::fflush(stdout) == 0;
     }
-    return Attempt([&] {
-        const int number = FreeFile();
-        OpenForOutput(number, path);
-        Print(number, text);
-        CloseFile(number);
-    });
+    return Attempt([&] { ReplaceFile(path, text); });
 }
 
 /// Compiles the loaded diagram; `output` takes the script, or with mode 0 what was sent.

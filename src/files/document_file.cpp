@@ -190,19 +190,6 @@ std::string BoxRecord(std::int16_t number) {
     return record;
 }
 
-/// Writes the text and a line end. A failing step is skipped in silence and leaves "0~" in the
-/// text.
-void WriteDocument(const std::string& name, std::string text) {
-    const auto Do = [&](auto&& statement) {
-        if (!Attempt(statement)) text += "0~";
-    };
-    int number = 0;
-    Do([&] { number = FreeFile(); });
-    Do([&] { OpenForOutput(number, name); });
-    Do([&] { Print(number, text + "\r\n"); });
-    Do([&] { CloseFile(number); });
-}
-
 bool IsUntitled(const std::string& caption) { return caption.starts_with("Untitled"); }
 
 /// The name to save under; false when the user cancelled.
@@ -308,7 +295,8 @@ void SaveDocument(std::int16_t document, std::int16_t mode) {
     if (mode == 2 || IsUntitled(window.Caption)) {
         if (!AskForName(window.Caption, name)) return;
     }
-    WriteDocument(name, DocumentText(document));
+    // A failure is passed over in silence; the old file is then still there.
+    Attempt([&] { ReplaceFile(name, DocumentText(document) + "\r\n"); });
     AddRecentFile(name);
     window.Caption = name;
     DocumentStates[document].Modified = 0;

@@ -95,10 +95,7 @@ void mnuExeFile_Click(Worksheet& sheet) {
     const auto answer =
         desktop->MsgBox({"Do you want to add a function header ?", Icon::Question, Buttons::YesNo});
     if (answer == Answer::Yes) script = AddFunctionHeader(path, script);
-    const int number = FreeFile();
-    Attempt([&] { OpenForOutput(number, path); });
-    Attempt([&] { Print(number, script + "\r\n"); });
-    Attempt([&] { CloseFile(number); });
+    Attempt([&] { ReplaceFile(path, script + "\r\n"); });
 }
 
 void frmTextResults_Load() {

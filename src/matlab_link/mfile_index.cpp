@@ -161,22 +161,20 @@ void ShowProgress(const std::string& text) {
     desktop->PaintNow();
 }
 
-void PrintLine(int number, const std::string& line) {
-    Attempt([&] { Print(number, line + "\r\n"); });
-}
+void AddLine(std::string& index, std::string_view line) { index.append(line).append("\r\n"); }
 
-void PrintFiles(int number, const std::string& path, const std::vector<std::string>& names) {
-    for (const auto& name : names) PrintLine(number, JoinPath(path, name));
+void AddFiles(std::string& index, const std::string& path, const std::vector<std::string>& names) {
+    for (const auto& name : names) AddLine(index, JoinPath(path, name));
 }
 
 /// The elements without a path are listed with the files of the last folder, since that is where
 /// looking through the folders ends.
-void PrintAllFiles(int number) {
+void AddAllFiles(std::string& index) {
     const auto& last = DirectoryList[DirectoryList.UpperBound()].MFiles;
-    PrintFiles(number, "", last);
-    if (!DirectoryList[1].MFiles.empty()) PrintFiles(number, "", last);
+    AddFiles(index, "", last);
+    if (!DirectoryList[1].MFiles.empty()) AddFiles(index, "", last);
     for (int i = 2; i <= DirectoryList.UpperBound(); ++i) {
-        PrintFiles(number, DirectoryList[i].Path, DirectoryList[i].MFiles);
+        AddFiles(index, DirectoryList[i].Path, DirectoryList[i].MFiles);
     }
 }
 
@@ -200,26 +198,21 @@ void ScanDirectory(const std::string& path) {
 
 void WriteMFileIndex() {
     CategoryTable = GrowableArray<CategoryRecord>(1);
-    int number = 0;
-    Attempt([&] {
-        const int free = FreeFile();
-        OpenForOutput(free, MFileIndex);
-        number = free;
-    });
     DirectoryList[1].MFiles = ReadFolder(".").MFiles;
     ShowProgress("Now writing directories.");
-    PrintLine(number, "[Directories]");
+    std::string index;
+    AddLine(index, "[Directories]");
     for (int i = 1; i <= DirectoryList.UpperBound(); ++i) {
         const auto& [path, files] = DirectoryList[i];
         if (files.empty()) continue;
         const std::string name(FileNameOf(path));
-        PrintLine(number, std::string(name).append(";").append(path));
+        AddLine(index, std::string(name).append(";").append(path));
         CategoryTable.Append({name, path});
     }
     ShowProgress("Now writing file names.");
-    PrintLine(number, "[Files]");
-    PrintAllFiles(number);
-    Attempt([&] { CloseFile(number); });
+    AddLine(index, "[Files]");
+    AddAllFiles(index);
+    Attempt([&] { ReplaceFile(MFileIndex, index); });
 }
 
 void frmScanning_Activate() {

@@ -97,16 +97,10 @@ Place FindKey(const std::vector<std::string>& lines, std::string_view section,
     return place;
 }
 
-/// Whatever fails, the file is closed, which leaves the old one or the new one whole.
 void WriteLines(const std::string& path, const std::vector<std::string>& lines) {
     std::string text;
     for (const auto& line : lines) text += line + "\r\n";
-    Attempt([&] {
-        const int number = FreeFile();
-        OpenForOutput(number, path);
-        Attempt([&] { Print(number, text); });
-        CloseFile(number);
-    });
+    Attempt([&] { ReplaceFile(path, text); });
 }
 
 }  // namespace

@@ -43,16 +43,14 @@ std::vector<std::string> WriteRecoveryFiles() {
     std::filesystem::create_directories(folder, error);
     for (int i = 1; i <= Documents.UpperBound(); ++i) {
         if (!Documents[i] || !DocumentStates[i].Modified) continue;
-        Attempt([&] {
+        // A diagram that can't be saved, for whatever reason, is no reason to lose the next one.
+        try {
             const auto name = FreeName(folder);
-            const auto text = DocumentText(static_cast<std::int16_t>(i)) + "\r\n";
-            const int number = FreeFile();
-            OpenForOutput(number, name);
-            // Closed also where the disk is full: what was written of the file then goes away.
-            Attempt([&] { Print(number, text); });
-            CloseFile(number);
+            ReplaceFile(name, DocumentText(static_cast<std::int16_t>(i)) + "\r\n");
             files.push_back(name);
-        });
+        } catch (const std::exception&) {
+            continue;
+        }
     }
     return files;
 }

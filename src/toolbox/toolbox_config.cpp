@@ -161,11 +161,8 @@ void RemoveKey(int index) {
 }
 
 void SavePanel() {
-    const int number = FreeFile();
-    OpenForOutput(number, frmConfigToolbox.opnFileName.Caption);
-    Print(number, frmConfigToolbox.lbltoolbox.Caption);
-    Print(number, LineEnd);
-    CloseFile(number);
+    ReplaceFile(frmConfigToolbox.opnFileName.Caption,
+                frmConfigToolbox.lbltoolbox.Caption + std::string(LineEnd));
 }
 
 /// Saves, when that fails once more with all files closed: the toolbox may hold the file open.

@@ -35,12 +35,6 @@ protected:
     WorkFolder folder;
 };
 
-void Replace(const std::string& path, const std::string& text) {
-    OpenForOutput(1, path);
-    Print(1, text);
-    CloseFile(1);
-}
-
 /// Reads a text by lines, or by fields, each followed by "|".
 std::string PartsOf(const std::string& text, std::string_view read(int) = LineInput) {
     std::string parts;
@@ -69,9 +63,6 @@ std::string Done(const std::string& step, int number, const std::string& file,
     std::string gives;
     const std::map<std::string, std::function<void()>> steps = {
         {"input", [&] { OpenForInput(number, file); }},
-        {"output", [&] { OpenForOutput(number, file); }},
-        {"print", [&] { Print(number, text); }},
-        {"flood", [&] { Print(number, Flood); }},
         {"line", [&] { gives = LineInput(number); }},
         {"field", [&] { gives = InputField(number); }},
         {"ended", [&] { gives = EndOfFile(number) ? "yes" : "no"; }},
@@ -79,10 +70,9 @@ std::string Done(const std::string& step, int number, const std::string& file,
         {"free", [&] { gives = std::to_string(FreeFile()); }},
         {"lines", [&] { gives = PartsOf(text); }},
         {"fields", [&] { gives = PartsOf(text, InputField); }},
-        {"replace", [&] { Replace(file, text); }},
+        {"replace", [&] { ReplaceFile(file, text); }},
         {"put", [&] { WriteAll(file, text); }},
         {"get", [&] { gives = ReadAll(file); }},
-        {"size", [&] { gives = std::to_string(fs::file_size(file)); }},
         {"names", [&] { gives = NamesHere([](auto& name) { return name; }); }},
         {"folder", [&] { fs::create_directory(file); }},
         {"link", [&] { fs::create_symlink(text, file); }},
@@ -130,54 +120,43 @@ TEST_F(FileTable, Limits) {
 
 TEST_F(FileTable, AKilledWriterLeavesTheOldFileWhole) {
     WriteAll("f", "old");
-    for (const bool killed : {false, true}) {
-        InChild([&] {
-            OpenForOutput(1, "f");
-            Print(1, Flood);
-            if (killed) raise(SIGKILL);
-            return 0;
-        });
-        EXPECT_EQ(ReadAll("f"), "old");
-    }
-    Replace("f", "new");
-    EXPECT_EQ(ReadAll("f"), "new");
+    ASSERT_EQ(chmod("f", 0600), 0);
+    const int killed = InChild([] {
+        LimitFiles(12288);
+        std::signal(SIGXFSZ, SIG_DFL);
+        ReplaceFile("f", Flood);
+        return 0;
+    });
+    EXPECT_EQ(killed, -1);
+    EXPECT_EQ(ReadAll("f"), "old");
+    EXPECT_EQ(NamesHere(ModeOf), "600 600") << "what is written is as private as the old file";
 }
 
-TEST_F(FileTable, AFullDiskLeavesTheOldFileWhole) {
+TEST_F(FileTable, AFullDiskLeavesTheOldFileWholeAndNothingElse) {
     const std::string old(3000, 'o');
-    // The first fails when it is closed, the other while it is printed.
-    for (const auto& text : {Flood.substr(0, 14000), Flood}) {
-        const int fault = InChild([&] {
-            LimitFiles(12288);
-            WriteAll("f", old);
-            OpenForOutput(1, "f");
-            const int printing = RaisedError([&] { Print(1, text); });
-            if (text == Flood && printing == 0) return 1;
-            if (RaisedError([] { CloseFile(1); }) != 61) return 2;
-            if (ReadAll("f") != old || NamesIn(".").size() != 1 || FreeFile() != 1) return 3;
-            Replace("f", "small");
-            return ReadAll("f") == "small" ? 0 : 4;
-        });
-        EXPECT_EQ(fault, 0) << text.size();
-    }
+    const int fault = InChild([&] {
+        LimitFiles(12288);
+        WriteAll("f", old);
+        if (RaisedError([] { ReplaceFile("f", Flood); }) != 61) return 1;
+        if (RaisedError([] { ReplaceFile("new", Flood); }) != 61) return 2;
+        if (ReadAll("f") != old || NamesIn(".").size() != 1 || FreeFile() != 1) return 3;
+        ReplaceFile("f", "small");
+        return ReadAll("f") == "small" ? 0 : 4;
+    });
+    EXPECT_EQ(fault, 0);
 }
 
 TEST_F(FileTable, ADeviceIsWrittenToAndStays) {
     ASSERT_EQ(mkfifo("pipe", 0600), 0);
     const int reader = open("pipe", O_RDWR | O_NONBLOCK);
-    Replace("pipe", "through");
+    ReplaceFile("pipe", "through");
     char read[8] = "";
     EXPECT_EQ(::read(reader, read, 7), 7);
     close(reader);
     EXPECT_STREQ(read, "through");
     ASSERT_TRUE(fs::is_fifo("pipe")) << "what follows would do the same to the machine's device";
     for (const auto& text : {std::string("short"), Flood}) {
-        OpenForOutput(1, "/dev/full");
-        const int printing = RaisedError([&] { Print(1, text); });
-        EXPECT_EQ(printing, text == Flood ? 61 : 0);
-        EXPECT_EQ(RaisedError([] { Print(1, "y"); }), printing);
-        EXPECT_EQ(RaisedError([] { CloseFile(1); }), 61);
-        EXPECT_EQ(FreeFile(), 1);
+        EXPECT_EQ(RaisedError([&] { ReplaceFile("/dev/full", text); }), 61);
     }
 }
 
@@ -188,9 +167,8 @@ TEST_F(FileTable, WriteProtectionHolds) {
     ASSERT_EQ(chmod("locked", 0555), 0);
     const int fault = InChild([] {
         BecomeNobody();
-        if (RaisedError([] { OpenForOutput(1, "f"); }) != 75) return 2;
-        if (RaisedError([] { OpenForOutput(1, "locked/new"); }) != 75) return 3;
-        return FreeFile() == 1 ? 0 : 4;
+        if (RaisedError([] { ReplaceFile("f", "new"); }) != 75) return 2;
+        return RaisedError([] { ReplaceFile("locked/new", "new"); }) == 75 ? 0 : 3;
     });
     EXPECT_EQ(fault, 0);
     EXPECT_EQ(ReadAll("f"), "old");
