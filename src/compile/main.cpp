@@ -59,14 +59,20 @@ bool LoadDiagram(ConsoleDesktop& console, const std::string& path, std::string& 
         held.push_back(line);
         lastText = line.substr(line.rfind('\t') + 1);
     };
-    LoadDocumentFile(path);
+    const bool isPiped = path == "-";
+    LoadDocumentFile(path, isPiped
+                               ? +[](int number, const std::string&) { OpenStandardInput(number); }
+                               : OpenForInput);
     console.WriteTranscript = write;
-    if (!lastLoad.Finished) {
-        why = path + ": " + lastText;
-        return false;
+    if (lastLoad.Opened && !lastLoad.HasCount) {
+        lastText = "not a Quorvane diagram";
+    } else if (lastLoad.Finished && lastLoad.ReadPastEnd) {
+        lastText = "The file ends in the middle of a box";
+    } else if (lastLoad.Finished) {
+        lastText.clear();
     }
-    if (lastLoad.ReadPastEnd) {
-        why = path + ": The file ends in the middle of a box";
+    if (!lastText.empty()) {
+        why = (isPiped ? "standard input" : path) + ": " + lastText;
         return false;
     }
     for (const auto& line : held) write(line);
@@ -156,7 +162,7 @@ int main(int argc, char** argv) {
     Options options;
     CLI::App app("Compiles a Quorvane diagram to MATLAB script.", "quorvane-compile");
     app.set_version_flag("--version", "quorvane-compile " QUORVANE_VERSION);
-    app.add_option("DIAGRAM", options.Diagram, "The diagram file (.qvm)")
+    app.add_option("DIAGRAM", options.Diagram, "The diagram file (.qvm), - for standard input")
         ->required()
         ->option_text(" ");
     app.add_option("-o,--output", options.Output, "Write there instead of to standard output")

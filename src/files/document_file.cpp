@@ -11,7 +11,6 @@
 #include "diagram/worksheet.h"
 #include "files/recent_files.h"
 #include "platform/desktop.h"
-#include "platform/file_table.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
 
@@ -76,6 +75,7 @@ std::int16_t ReadBoxCount(Load& load) {
         const auto number = TextToInt16(LineInput(LoadFile));
         if (number < 0) throw RuntimeError(5);
         count = number;
+        lastLoad.HasCount = true;
     });
     return count;
 }
@@ -232,6 +232,11 @@ std::string DocumentText(std::int16_t document) {
     return text;
 }
 
+void ResetDocumentFile() {
+    lastLoad = {};
+    numberedBoxes.clear();
+}
+
 std::int16_t NewDocument() {
     const auto number = AllocateDocument();
     auto& window = Documents[number];
@@ -262,11 +267,11 @@ void LoadDocument(const std::string& name) {
     if (lastLoad.Finished) Attempt([&] { ChangeDirectory(remembered); });
 }
 
-void LoadDocumentFile(const std::string& path) {
+void LoadDocumentFile(const std::string& path, void (*open)(int number, const std::string& path)) {
     lastLoad = {};
     Load load;
     load.Document = NewDocument();
-    load.Do([&] { OpenForInput(LoadFile, path); });
+    load.Do([&] { open(LoadFile, path); });
     if (load.Failed) return;
     lastLoad.Opened = true;
     const auto count = ReadBoxCount(load);

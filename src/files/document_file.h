@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include "platform/file_table.h"
+
 namespace quorvane {
 
 /// The filter of the dialogs that load and save a diagram.
@@ -13,6 +15,7 @@ extern const char* const DocumentFilter;
 /// How the last load ended. A load reports by messages; this is for a caller that can't see them.
 struct LoadOutcome {
     bool Opened = false;
+    bool HasCount = false;  ///< It begins with a number of boxes, as every diagram does
     bool Finished = false;  ///< It came to its end: not refused for too many boxes, not cut short
     bool ReadPastEnd = false;  ///< A line was asked for behind the end of the file
 };
@@ -25,8 +28,10 @@ std::int16_t NewDocument();
 /// of any other only the last component counts, which is looked for in the current folder.
 void LoadDocument(const std::string& name);
 
-/// Loads the file at `path` into a new document. The caption becomes the path.
-void LoadDocumentFile(const std::string& path);
+/// Loads the file at `path` into a new document. The caption becomes the path. `open` gives the
+/// file a number to read it by.
+void LoadDocumentFile(const std::string& path,
+                      void (*open)(int number, const std::string& path) = OpenForInput);
 
 /// Saves a document, 1 under its name or 2 under a name that the user gives. A document whose
 /// caption begins with "Untitled" is always asked for.
@@ -34,6 +39,8 @@ void SaveDocument(std::int16_t document, std::int16_t mode);
 
 /// What a saved file of this document holds, without the empty line at its end.
 std::string DocumentText(std::int16_t document);
+
+void ResetDocumentFile();
 
 /// Numbers boxes by their first mention while saving; 0 and below stay as they are.
 std::int16_t MapBoxNumber(std::int16_t tableIndex);

@@ -27,6 +27,7 @@ protected:
                  "Compute Function~Input9;\r\n1~-1~-1~0~0~0~0~0~0~0~0~0~0\r\n0~0~\r\n\r\n");
         WriteAll(folder / "cut.qvm", "2\r\nConstant Input~3" + Links);
         WriteAll(folder / "empty", "");
+        WriteAll(folder / "text", "# A heading\r\n\r\n3 boxes~\r\n");
         // Files of answers are called by what they hold.
         for (const std::string end : {"", "\n", "\r\n", "\r"}) {
             WriteAll(folder / ("text 7" + end), "text 7" + end);
@@ -52,9 +53,14 @@ TEST_F(CommandLine, RunsEndInTheirWays) {
     for (const auto& row : ReadTable("compile/command_line.tsv")) {
         SCOPED_TRACE(row.back() + " " + row[0]);
         WriteAll(folder / "out.m", "old");
-        const auto words = Split(row[0], '|');
-        const auto run =
-            RunCompile(folder.Path, row[0] == "none" ? std::vector<std::string>() : words);
+        auto words = Split(row[0], '|');
+        std::string input = "/dev/null";
+        if (words.back() == "none") words.pop_back();
+        if (!words.empty() && words.back().starts_with("<")) {
+            input = words.back().substr(1);
+            words.pop_back();
+        }
+        const auto run = RunCompile(folder.Path, words, "", input);
         EXPECT_EQ(std::to_string(run.Exit), row[1]);
         EXPECT_EQ(run.Output, row[2]);
         EXPECT_EQ(FirstWords(run.Errors), row[3]) << run.Errors;
@@ -62,6 +68,8 @@ TEST_F(CommandLine, RunsEndInTheirWays) {
         EXPECT_EQ(NamesIn(folder.Path), names);
     }
     EXPECT_EQ(RunCompile(folder.Path, {"good.qvm"}, "/dev/full").Exit, 2);
+    EXPECT_EQ(RunCompile(folder.Path, {"--check", "text"}).Errors,
+              "quorvane-compile: text: not a Quorvane diagram\n");
 }
 
 TEST_F(CommandLine, HelpAndVersion) {

@@ -26,16 +26,17 @@ inline std::string Quoted(const std::string& word) {
 }
 
 /// Runs quorvane-compile in `folder`. What it prints is kept in a folder of its own; `output` names
-/// another place for standard output, which then reads as "".
+/// another place for standard output, which then reads as "", `input` what standard input is.
 inline CompileRun RunCompile(const std::filesystem::path& folder,
                              const std::vector<std::string>& arguments,
-                             const std::string& output = "") {
+                             const std::string& output = "",
+                             const std::string& input = "/dev/null") {
     const WorkFolder kept;
     const auto outputPath = output.empty() ? (kept.Path / "output").string() : output;
     const auto errorsPath = (kept.Path / "errors").string();
     std::string command = "cd " + Quoted(folder.string()) + " && exec " + Quoted(QUORVANE_COMPILE);
     for (const auto& argument : arguments) command += " " + Quoted(argument);
-    command += " >" + Quoted(outputPath) + " 2>" + Quoted(errorsPath) + " </dev/null";
+    command += " >" + Quoted(outputPath) + " 2>" + Quoted(errorsPath) + " <" + Quoted(input);
     CompileRun run;
     const int status = std::system(command.c_str());
     if (WIFEXITED(status)) run.Exit = WEXITSTATUS(status);
