@@ -30,6 +30,13 @@ struct FieldFile {
     FieldFile& operator=(const FieldFile&) = delete;
     bool AtEnd() const { return EndOfFile(Number); }
     std::string Next() const { return std::string(InputField(Number)); }
+    /// As Next, but without the blanks behind a comma.
+    std::string NextOfLine() const {
+        const bool goesOn = LineGoesOn(Number);
+        auto item = Next();
+        if (goesOn) item.erase(0, item.find_first_not_of(' '));
+        return item;
+    }
 
     int Number = FreeFile();
 };
@@ -112,7 +119,7 @@ void FillCategories() {
 }
 
 /// The first comment of a file. A comma ends a field in the middle of a line, and what stands
-/// behind it begins a field of its own, without "%".
+/// behind it and its blanks begins a field of its own, without "%".
 std::string ReadHelp(const std::string& path) {
     const FieldFile file(path);
     std::string item;
@@ -127,7 +134,7 @@ std::string ReadHelp(const std::string& path) {
             help += ' ' + item;
         }
         help += "\r\n";
-        item = file.Next();
+        item = file.NextOfLine();
     }
     return help;
 }
@@ -181,9 +188,8 @@ void frmMatlab_lstFunc_Click() {
 }
 
 void frmMatlab_cmdRescn_Click() {
-    // A category is chosen anew afterwards, be it the same one.
-    frmMatlab.cmbCategory.Text.clear();
     Rescan();
+    if (!frmMatlab.cmbCategory.Text.empty()) frmMatlab_cmbCategory_Click();
 }
 
 void frmMatlab_cmdOK_Click() {

@@ -27,9 +27,10 @@ void frmMatlab_Load();
 /// Lists the files in whose path that of the category occurs, those of folders below it included.
 void frmMatlab_cmbCategory_Click();
 /// Shows the comment that stands first in the selected file, or asks whether to scan again when it
-/// can't be read. A line that commas part is put together again with a blank for each.
+/// can't be read. A comma-separated line is put together again with a blank for each comma.
 void frmMatlab_lstFunc_Click();
-/// Scans the drives. The categories of the dialog stay as they were until it is opened again.
+/// Scans the drives and lists the files of the chosen category anew. The categories of the dialog
+/// stay as they were until it is opened again.
 void frmMatlab_cmdRescn_Click();
 /// Hands the name of the selected function, or "" when none is selected, to who opened the dialog.
 void frmMatlab_cmdOK_Click();

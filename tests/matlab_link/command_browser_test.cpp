@@ -79,11 +79,13 @@ TEST_F(CommandBrowser, AnIndexThatIsMissingOrCutOffStartsAScan) {
     }
 }
 
-TEST_F(CommandBrowser, ARescanShowsWhenTheDialogIsOpenedAgain) {
-    WriteAll("mfiles.txt", "[D]\nold;/old\n[Files]\n/old/gone.m\nlast");
+TEST_F(CommandBrowser, ARescanListsTheChosenCategoryAnew) {
+    WriteAll("mfiles.txt",
+             "[D]\nold;" + folder / "old" + "\n[Files]\n" + folder / "old/gone.m\nlast");
     MakeFiles("new", {"f.m", "g.m"});
+    MakeFiles("old", {"h.m", "last.m"});
     frmMatlab_Load();
-    EXPECT_EQ(Functions("Old"), "/old/gone.m");
+    EXPECT_EQ(Functions("Old"), folder / "old/gone.m");
     frmMatlab.lblHelp.Caption = "help";
     for (const auto answer : {Answer::No, Answer::Yes}) {
         screen.MessageAnswers = {answer};
@@ -91,14 +93,16 @@ TEST_F(CommandBrowser, ARescanShowsWhenTheDialogIsOpenedAgain) {
         frmMatlab_lstFunc_Click();
         EXPECT_EQ(screen.Messages.back().Text,
                   "File not found. Maybe the drives should be Rescan ?");
-        EXPECT_EQ(frmMatlab.lstFunc.List.empty(), answer == Answer::Yes);
+        EXPECT_EQ(Joined(frmMatlab.lstFunc.List),
+                  folder / (answer == Answer::Yes ? "old/h.m" : "old/gone.m"));
+        EXPECT_EQ(frmMatlab.cmbCategory.Text, "Old");
         EXPECT_EQ(frmMatlab.lblHelp.Caption.empty(), answer == Answer::Yes);
     }
     EXPECT_EQ(Joined(screen.FormsShown), "frmScanning");
     EXPECT_EQ(Joined(frmMatlab.cmbCategory.List), "Old|" + All);
     frmMatlab_Load();
-    EXPECT_EQ(Joined(frmMatlab.cmbCategory.List), "New|" + All);
-    EXPECT_EQ(Functions("New"), folder / "new/f.m");
+    EXPECT_EQ(Joined(frmMatlab.cmbCategory.List), "New|Old|" + All);
+    EXPECT_EQ(Functions("New"), folder / "new/f.m" + "|" + folder / "new/g.m");
 }
 
 TEST_F(CommandBrowser, TheNameGoesToWhoeverOpenedTheDialog) {
