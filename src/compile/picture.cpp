@@ -84,12 +84,17 @@ std::string CharacterData(std::string_view text) {
 
 bool IsLine(const DrawnShape& shape) { return shape.Shape == DrawnShape::Kind::Line; }
 
+std::string PenAttributes(const DrawnShape& shape) {
+    return Attribute("stroke", ColorText(shape.Color)) +
+           Attribute("stroke-width", NumberText(shape.Width));
+}
+
 /// The legs of an arrow: a line, and the upright one that goes on from its end, if any. Lines
 /// along an axis cover whole pixels, so that they are sharp at the size of the screen and of one
 /// width at any other.
-std::string LegsElement(const DrawnShape& first, const DrawnShape* second, int width) {
-    const auto across = [&](double units) {
-        return std::round(units / UnitsPerPixel - width / 2.0) + width / 2.0;
+std::string LegsElement(const DrawnShape& first, const DrawnShape* second) {
+    const auto across = [half = first.Width / 2.0](double units) {
+        return std::round(units / UnitsPerPixel - half) + half;
     };
     const auto along = [](double units) { return units / UnitsPerPixel; };
     const bool level = first.Y1 == first.Y2;
@@ -101,7 +106,7 @@ std::string LegsElement(const DrawnShape& first, const DrawnShape* second, int w
     } else {
         path += Point(along(first.X2), level ? y : along(first.Y2));
     }
-    return "<path" + Attribute("stroke", ColorText(first.Color)) + " d=\"M" + path + "\"/>\n";
+    return "<path" + PenAttributes(first) + " d=\"M" + path + "\"/>\n";
 }
 
 /// The head of an arrow: a black slice between two angles, counter-clockwise, with an edge in the
@@ -116,8 +121,8 @@ std::string PieElement(const DrawnShape& pie) {
     const auto rim = [&](double angle) {
         return Point(x + radius * std::cos(angle), y - radius * std::sin(angle));
     };
-    return "<path" + Attribute("stroke", ColorText(pie.Color)) + " fill=\"#000000\" d=\"M" +
-           Point(x, y) + " L" + rim(start) + " A" + Point(radius, radius) + " 0 " +
+    return "<path" + PenAttributes(pie) + " fill=\"#000000\" d=\"M" + Point(x, y) + " L" +
+           rim(start) + " A" + Point(radius, radius) + " 0 " +
            (sweep > std::numbers::pi ? "1" : "0") + " 0 " + rim(start + sweep) + " Z\"/>\n";
 }
 
@@ -187,8 +192,7 @@ std::string BoxElement(const Worksheet& sheet, int number) {
 
 std::string ArrowElements(const Worksheet& sheet) {
     const auto& shapes = sheet.Surface;
-    std::string text =
-        "<g" + Attribute("stroke-width", NumberText(sheet.DrawWidth)) + " fill=\"none\">\n";
+    std::string text = "<g fill=\"none\">\n";
     for (std::size_t i = 0; i < shapes.size(); ++i) {
         if (!IsLine(shapes[i])) {
             text += PieElement(shapes[i]);
@@ -197,7 +201,7 @@ std::string ArrowElements(const Worksheet& sheet) {
         const auto* next = i + 1 < shapes.size() ? &shapes[i + 1] : nullptr;
         const bool goesOn = next && IsLine(*next) && next->X1 == shapes[i].X2 &&
                             next->Y1 == shapes[i].Y2 && next->X1 == next->X2;
-        text += LegsElement(shapes[i], goesOn ? next : nullptr, sheet.DrawWidth);
+        text += LegsElement(shapes[i], goesOn ? next : nullptr);
         if (goesOn) ++i;
     }
     return text + "</g>\n";

@@ -11,9 +11,10 @@ namespace {
 /// Heads are drawn with this value, which is part of their shape.
 constexpr double Pi = 3.14;
 
-DrawnShape Line(std::int32_t color, double x1, double y1, double x2, double y2) {
+DrawnShape Line(const Pen& pen, double x1, double y1, double x2, double y2) {
     DrawnShape line;
-    line.Color = color;
+    line.Color = pen.Color;
+    line.Width = pen.Width;
     line.X1 = x1;
     line.Y1 = y1;
     line.X2 = x2;
@@ -21,10 +22,11 @@ DrawnShape Line(std::int32_t color, double x1, double y1, double x2, double y2) 
     return line;
 }
 
-DrawnShape Pie(std::int32_t color, double x, double y, double radius, double start, double end) {
+DrawnShape Pie(const Pen& pen, double x, double y, double radius, double start, double end) {
     DrawnShape pie;
     pie.Shape = DrawnShape::Kind::Pie;
-    pie.Color = color;
+    pie.Color = pen.Color;
+    pie.Width = pen.Width;
     pie.X1 = x;
     pie.Y1 = y;
     pie.Radius = radius;
@@ -37,16 +39,16 @@ DrawnShape Pie(std::int32_t color, double x, double y, double radius, double sta
 double LandingPoint(const BoxControl& D, int entry) { return D.Left + entry * (D.Width / 5); }
 
 /// The head at the landing point x of destination D, by where source S stands.
-DrawnShape Head(std::int32_t color, const BoxControl& S, const BoxControl& D, double x) {
+DrawnShape Head(const Pen& pen, const BoxControl& S, const BoxControl& D, double x) {
     const double middle = S.Top + S.Height / 2;
-    if (S.Top < D.Top - D.Height / 2) return Pie(color, x, D.Top - 10, 100, -0.95, -2.2);
+    if (S.Top < D.Top - D.Height / 2) return Pie(pen, x, D.Top - 10, 100, -0.95, -2.2);
     if (S.Top >= D.Top + D.Height / 2) {
-        return Pie(color, x, D.Top + D.Height + 10, 100, -0.95 - Pi, -2.2 - Pi);
+        return Pie(pen, x, D.Top + D.Height + 10, 100, -0.95 - Pi, -2.2 - Pi);
     }
     if (S.Left < D.Left) {
-        return Pie(color, D.Left, middle, 150, -0.3 - Pi * 0.85, -1.2 - Pi * 0.75);
+        return Pie(pen, D.Left, middle, 150, -0.3 - Pi * 0.85, -1.2 - Pi * 0.75);
     }
-    return Pie(color, D.Left + D.Width, middle, 100, -1.05 - 1.5 * Pi, -0.7);
+    return Pie(pen, D.Left + D.Width, middle, 100, -1.05 - 1.5 * Pi, -0.7);
 }
 
 }  // namespace
@@ -54,21 +56,21 @@ DrawnShape Head(std::int32_t color, const BoxControl& S, const BoxControl& D, do
 void DrawArrow(int source, int destination, int entry, const char* /*mode*/, int document) {
     if (destination <= 0) return;
     Attempt([&] {
-        const auto color = Boxes[source].BoxLineColor[entry];
         auto& window = DocumentWindow(document);
+        const Pen pen = {Boxes[source].BoxLineColor[entry], window.DrawWidth};
         const auto& S = window.box[source];
         const auto& D = window.box[destination];
-        DrawLegs(window.Surface, color, S, D, entry);
-        window.Surface.push_back(Head(color, S, D, LandingPoint(D, entry)));
+        DrawLegs(window.Surface, pen, S, D, entry);
+        window.Surface.push_back(Head(pen, S, D, LandingPoint(D, entry)));
     });
 }
 
-void DrawLegs(std::vector<DrawnShape>& surface, std::int32_t color, const BoxControl& S,
+void DrawLegs(std::vector<DrawnShape>& surface, const Pen& pen, const BoxControl& S,
               const BoxControl& D, int entry) {
     const double x = LandingPoint(D, entry);
     const double y = S.Top + S.Height / 2;
-    surface.push_back(Line(color, S.Left + entry * (S.Width / 5), y, x, S.Top + D.Height / 2));
-    surface.push_back(Line(color, x, y, x, D.Top));
+    surface.push_back(Line(pen, S.Left + entry * (S.Width / 5), y, x, S.Top + D.Height / 2));
+    surface.push_back(Line(pen, x, y, x, D.Top));
 }
 
 int FindEntrySlot(int source, int destination) {

@@ -9,13 +9,18 @@
 
 namespace quorvane {
 
+struct Pen {
+    std::int32_t Color = 0;  ///< Red in the low byte
+    int Width = 1;           ///< In pixels
+};
+
 /// Paints the arrow from box `source` to entry `entry` (1 to 3) of box `destination` on the surface
 /// of `document`: two legs and a head, by the places of the box controls. A destination of 0 or
 /// below, and any failure, paints nothing more. `mode` is always "b" and has no effect.
 void DrawArrow(int source, int destination, int entry, const char* mode, int document);
 
 /// Paints the two legs of an arrow from control S to entry `entry` of control D.
-void DrawLegs(std::vector<DrawnShape>& surface, std::int32_t color, const BoxControl& S,
+void DrawLegs(std::vector<DrawnShape>& surface, const Pen& pen, const BoxControl& S,
               const BoxControl& D, int entry);
 
 /// The lowest entry of `destination` that holds `source`, 1 when there is none.

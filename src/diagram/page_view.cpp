@@ -39,8 +39,8 @@ void AddArrows() {
             if (peer <= 0) continue;
             const int entry = FindEntrySlot(i, peer);
             Attempt([&] {
-                DrawLegs(frmPageView.Surface, box.BoxLineColor[entry], frmPageView.box[i],
-                         frmPageView.box[peer], entry);
+                DrawLegs(frmPageView.Surface, {.Color = box.BoxLineColor[entry]},
+                         frmPageView.box[i], frmPageView.box[peer], entry);
             });
         }
     }

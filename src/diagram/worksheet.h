@@ -31,6 +31,7 @@ struct DrawnShape {
     enum class Kind { Line, Pie };
     Kind Shape = Kind::Line;
     std::int32_t Color = 0;  ///< Red in the low byte
+    int Width = 1;           ///< Of the pen, in pixels: what it was when the shape was painted
     double X1 = 0, Y1 = 0;
     double X2 = 0, Y2 = 0;                            ///< Line only
     double Radius = 0, StartAngle = 0, EndAngle = 0;  ///< Pie only
@@ -83,7 +84,7 @@ struct Worksheet {
     double ScaleWidth = 9600;  ///< Inner size of the window, in screen units; the screen writes it
     double ScaleHeight = 7200;
     int MousePointer = PointerDefault;
-    int DrawWidth = 1;  ///< Pen width of the arrows, in pixels
+    int DrawWidth = 1;  ///< Pen width of what is painted from now on, in pixels
     GaugePanel pnlResource;
     ArrowPanel pnlArrow;
     Area pctblank;

@@ -58,6 +58,7 @@ void ReadCheckBox(const char* key, CheckBox& box) {
 
 void DrawSampleLine() {
     DrawnShape line;
+    line.Width = frmPrefs.DrawWidth;
     line.X1 = 3100;
     line.X2 = 4200;
     line.Y1 = line.Y2 = 480;

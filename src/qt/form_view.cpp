@@ -326,7 +326,7 @@ void FormView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     auto line = frmPrefs.Surface;
     for (auto& shape : line) shape.Color = ColorNumber(palette().color(QPalette::WindowText));
-    PaintShapes(painter, line, frmPrefs.DrawWidth);
+    PaintShapes(painter, line);
 }
 
 void FormView::showEvent(QShowEvent* event) {

@@ -39,7 +39,7 @@ PageViewDialog::PageViewDialog(QWidget* parent) : QDialog(parent) {
 void PageViewDialog::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    PaintShapes(painter, frmPageView.Surface, 1);
+    PaintShapes(painter, frmPageView.Surface);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const auto& boxes = frmPageView.box;

@@ -32,16 +32,16 @@ QPolygonF Slice(const DrawnShape& pie) {
 
 /// Lines along an axis, as those of arrows are, are filled as rectangles: that costs a third of
 /// what a pen does.
-void PaintLine(QPainter& painter, const DrawnShape& line, const QColor& color, int width) {
+void PaintLine(QPainter& painter, const DrawnShape& line, const QColor& color) {
     const QPointF from = QPointF(line.X1, line.Y1) / UnitsPerPixel;
     const QPointF to = QPointF(line.X2, line.Y2) / UnitsPerPixel;
-    const double half = width / 2.0;
+    const double half = line.Width / 2.0;
     if (from.x() == to.x()) {
         painter.fillRect(QRectF(from, to).normalized().adjusted(-half, 0, half, 0), color);
     } else if (from.y() == to.y()) {
         painter.fillRect(QRectF(from, to).normalized().adjusted(0, -half, 0, half), color);
     } else {
-        painter.setPen(QPen(color, width, Qt::SolidLine, Qt::FlatCap));
+        painter.setPen(QPen(color, line.Width, Qt::SolidLine, Qt::FlatCap));
         painter.drawLine(from, to);
     }
 }
@@ -56,18 +56,19 @@ std::int32_t ColorNumber(const QColor& color) {
     return color.red() | color.green() << 8 | color.blue() << 16;
 }
 
-void PaintShapes(QPainter& painter, const std::vector<DrawnShape>& shapes, int penWidth) {
+void PaintShapes(QPainter& painter, const std::vector<DrawnShape>& shapes) {
     painter.setBrush(Qt::black);
-    QPen outline(Qt::black, penWidth, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+    QPen outline(Qt::black, 1, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
     for (const auto& shape : shapes) {
         const bool isLine = shape.Shape == DrawnShape::Kind::Line;
         const auto color = ColorOf(shape.Color);
         painter.setRenderHint(QPainter::Antialiasing, !isLine);
         if (isLine) {
-            PaintLine(painter, shape, color, penWidth);
+            PaintLine(painter, shape, color);
             continue;
         }
         outline.setColor(color);
+        outline.setWidth(shape.Width);
         painter.setPen(outline);
         painter.drawPolygon(Slice(shape));
     }

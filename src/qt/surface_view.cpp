@@ -30,9 +30,9 @@ QRect BandOf(const RectangleShape& shape) {
 }
 
 bool SameShape(const DrawnShape& a, const DrawnShape& b) {
-    return a.Shape == b.Shape && a.Color == b.Color && a.X1 == b.X1 && a.Y1 == b.Y1 &&
-           a.X2 == b.X2 && a.Y2 == b.Y2 && a.Radius == b.Radius && a.StartAngle == b.StartAngle &&
-           a.EndAngle == b.EndAngle;
+    return a.Shape == b.Shape && a.Color == b.Color && a.Width == b.Width && a.X1 == b.X1 &&
+           a.Y1 == b.Y1 && a.X2 == b.X2 && a.Y2 == b.Y2 && a.Radius == b.Radius &&
+           a.StartAngle == b.StartAngle && a.EndAngle == b.EndAngle;
 }
 
 }  // namespace
@@ -50,11 +50,9 @@ Worksheet& SurfaceView::Sheet() const { return DocumentWindow(document_); }
 
 void SurfaceView::Refresh() {
     const auto& sheet = Sheet();
-    if (drawnWidth_ != sheet.DrawWidth ||
-        !std::equal(drawn_.begin(), drawn_.end(), sheet.Surface.begin(), sheet.Surface.end(),
+    if (!std::equal(drawn_.begin(), drawn_.end(), sheet.Surface.begin(), sheet.Surface.end(),
                     SameShape)) {
         drawn_ = sheet.Surface;
-        drawnWidth_ = sheet.DrawWidth;
         layerIsOld_ = true;
         update();
     }
@@ -83,7 +81,7 @@ void SurfaceView::DrawLayer() {
     layerIsOld_ = false;
     layer_.fill(sheetColor);
     QPainter painter(&layer_);
-    PaintShapes(painter, drawn_, drawnWidth_);
+    PaintShapes(painter, drawn_);
 }
 
 void SurfaceView::paintEvent(QPaintEvent* event) {

@@ -37,7 +37,6 @@ private:
 
     int document_;
     std::vector<DrawnShape> drawn_;  ///< What the picture shows
-    int drawnWidth_ = 0;             ///< With this pen
     QPixmap layer_;
     bool layerIsOld_ = false;    ///< It shows other shapes than drawn_
     QRect band_;                 ///< The rubber band as painted, empty when hidden

@@ -21,9 +21,9 @@ constexpr auto Picture =
 <symbol id="cell118" viewBox="0 0 32 32"></symbol>
 </defs>
 <rect x="-30" y="0" width="163" height="133" fill="#4c5866"/>
-<g stroke-width="1" fill="none">
-<path stroke="#ff0000" d="M3.2 36.5 L93.5 36.5 L93.5 20"/>
-<path stroke="#ff0000" fill="#000000" d="M80 36.5 L70.15 34.78 A10 10 0 0 0 70.84 40.52 Z"/>
+<g fill="none">
+<path stroke="#ff0000" stroke-width="1" d="M3.2 36.5 L93.5 36.5 L93.5 20"/>
+<path stroke="#ff0000" stroke-width="1" fill="#000000" d="M80 36.5 L70.15 34.78 A10 10 0 0 0 70.84 40.52 Z"/>
 </g>
 <g transform="translate(-10 20)"><title>box1: Sin</title>FACE<use xlink:href="#cell118" x="1.5" y="1.5" width="30" height="30"/></g>
 <g transform="translate(80 20)"><title>box2: Sin</title>FACE<use xlink:href="#cell118" x="1.5" y="1.5" width="30" height="30"/></g>

@@ -95,6 +95,8 @@ private:
             {"Tag", OfSheet(&W::Tag)},
             {"ScaleWidth", OfSheet(&W::ScaleWidth)},
             {"ScaleHeight", OfSheet(&W::ScaleHeight)},
+            {"DrawWidth", OfSheet(&W::DrawWidth)},
+            {"BubbleShow", OfSheet(&W::mnuOptionsBubbleShow, &MenuItem::Checked)},
             {"Minimized", OfSheet(&W::Minimized)},
             {"MousePointer", OfSheet(&W::MousePointer)},
             {"cmdEventFire", OfSheet(&W::cmdEventFire)},

@@ -52,7 +52,7 @@ inline std::string Show(const BoxControl& c) {
     return Show(Reals{c.Left, c.Top}) + (c.Visible ? "" : "-");
 }
 inline std::string Show(const DrawnShape& s) {
-    const auto color = Show(s.Color);
+    const auto color = Show(s.Color) + (s.Width == 1 ? "" : "w" + Show(s.Width));
     if (s.Shape == DrawnShape::Kind::Line) return color + ":" + Show(Reals{s.X1, s.Y1, s.X2, s.Y2});
     return color + "<" + Show(Reals{s.X1, s.Y1, s.Radius, s.StartAngle, s.EndAngle});
 }
