@@ -3,6 +3,7 @@
 
 #include "diagram/arrows.h"
 #include "diagram/box_table.h"
+#include "diagram/preferences.h"
 #include "platform/numbers.h"
 
 namespace quorvane {
@@ -38,6 +39,9 @@ void GrowAtEnd(SheetScrollBar& bar, std::int32_t& page) {
 }  // namespace
 
 void main_Load(Worksheet& sheet) {
+    sheet.DrawWidth = TextToInt16(frmPrefs.txtLineWidth.Text);
+    sheet.mnuOptionsBubbleShow.Checked = frmPrefs.chkShowBubbles.Value != 0;
+    sheet.pnlResource.Value = BoxTableFill();
     PageRight = ToInt32(sheet.scrH.Place.Left + sheet.scrH.Place.Width);
     PageBottom = sheet.scrV.Max;
 }
