@@ -121,9 +121,12 @@ void EndSelection(Worksheet& sheet) {
 }
 
 void MoveSelection(Worksheet& sheet, double X, double Y) {
+    const auto document = DocumentNumber(sheet);
     for (int i = 1; i <= SelectedBoxes.UpperBound(); ++i) {
         const int number = SelectedBoxes[i];
-        Attempt([&] { PlaceLike(sheet, number, number, X, Y); });
+        const bool isOwn = BoxOrFree(number).BoxDocument == document;
+        Attempt(isOwn ? ErrorPolicy::Ignore : ErrorPolicy::Fatal,
+                [&] { PlaceLike(sheet, number, number, X, Y); });
     }
     EditMode = 1;
     MarkModified(sheet);

@@ -25,8 +25,9 @@ void StretchSelection(Worksheet& sheet, double X, double Y);
 /// corner lies beyond 16 bits.
 void EndSelection(Worksheet& sheet);
 
-/// Moves the selection so that the corner of its rectangle lands at (X, Y). Boxes that aren't on
-/// this worksheet stay where they are.
+/// Moves the selection so that the corner of its rectangle lands at (X, Y). Error 340 for a box of
+/// another document, and nothing is marked as changed then; one of this document without a control
+/// stays where it is.
 void MoveSelection(Worksheet& sheet, double X, double Y);
 
 /// Copies the selection onto this worksheet, with the arrows between the selected boxes.
