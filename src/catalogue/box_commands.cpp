@@ -213,7 +213,7 @@ void cmdEventFire_Click(Worksheet& sheet) {
     if (row->Control == "mnuArrow") {
         mnuArrow_Click(sheet);
     } else if (row->Control == "mnuSpecSub") {
-        desktop->PopupMenu(row->Control);
+        desktop->PopupMenu(row->Control, DocumentNumber(sheet));
     } else {
         RunBoxCommand(sheet, row->Control);
     }

@@ -41,8 +41,9 @@ struct Desktop {
     /// what the user did.
     virtual void ShowModal(std::string_view form) = 0;
 
-    /// Pops up the menu of this control at the mouse pointer.
-    virtual void PopupMenu(std::string_view menu) = 0;
+    /// Pops up the menu of this control at the mouse pointer. Its commands work for this document,
+    /// whichever worksheet is active.
+    virtual void PopupMenu(std::string_view menu, int document) = 0;
     /// Arranges the worksheets: 0 cascade, 1 tile horizontally, 2 the icons of minimised ones.
     virtual void ArrangeWindows(int how) = 0;
     virtual void SetClipboardText(const std::string& text) = 0;

@@ -79,6 +79,7 @@ FrameView::~FrameView() {
     disconnect(area_, nullptr, this, nullptr);
     RefreshScreen = [] {};
     activeDocument = 0;
+    poppedDocument = 0;
     frameView = nullptr;
 }
 
@@ -189,8 +190,19 @@ void FrameView::Arrange(int how) {
     }
 }
 
-void FrameView::PopupMenu(const QString& control) {
-    if (auto* menu = findChild<QMenu*>(control + "Menu")) menu->popup(QCursor::pos());
+void FrameView::PopupMenu(const QString& control, int document) {
+    auto* menu = findChild<QMenu*>(control + "Menu");
+    if (!menu) return;
+    poppedDocument = document;
+    // An entry is chosen when the menu has gone, but before what is queued then.
+    connect(
+        menu, &QMenu::aboutToHide, this,
+        [this] {
+            QMetaObject::invokeMethod(
+                this, [] { poppedDocument = 0; }, Qt::QueuedConnection);
+        },
+        Qt::SingleShotConnection);
+    menu->popup(QCursor::pos());
 }
 
 void FrameView::closeEvent(QCloseEvent* event) {

@@ -26,8 +26,8 @@ public:
     void Refresh();
     void Arrange(int how);
     QMdiArea* Area() const { return area_; }
-    /// Pops up the menu of this control at the pointer.
-    void PopupMenu(const QString& control);
+    /// Pops up the menu of this control at the pointer; its commands work for this document.
+    void PopupMenu(const QString& control, int document);
 
 protected:
     void closeEvent(QCloseEvent* event) override;

@@ -2,6 +2,7 @@
 #include "qt/menu_bar.h"
 
 #include <QMenu>
+#include <utility>
 
 #include "qt/dispatch.h"
 #include "qt/screen_units.h"
@@ -10,6 +11,7 @@
 namespace quorvane {
 
 int activeDocument = 0;
+int poppedDocument = 0;
 
 namespace {
 
@@ -83,7 +85,9 @@ MenuSet MakeDocumentMenus(QWidget* parent) {
     return MakeMenus(
         documentMenu, parent, [](const DocumentMenuRow& row) { return HasCommand(row); },
         [](const DocumentMenuRow& row) {
-            if (activeDocument > 0) RunMenuCommand(row, DocumentWindow(activeDocument));
+            const int popped = std::exchange(poppedDocument, 0);
+            const int document = popped > 0 ? popped : activeDocument;
+            if (document > 0) RunMenuCommand(row, DocumentWindow(document));
         });
 }
 

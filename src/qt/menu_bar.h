@@ -26,5 +26,7 @@ void RefreshDocumentMenus(const MenuSet& set, int document);
 
 /// The document whose worksheet is active, 0 when none is. The frame sets it.
 extern int activeDocument;
+/// The document for which a menu has popped up, 0 while none has.
+extern int poppedDocument;
 
 }  // namespace quorvane

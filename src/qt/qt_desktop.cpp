@@ -188,7 +188,9 @@ void QtDesktop::ShowModal(std::string_view form) {
     view->exec();
 }
 
-void QtDesktop::PopupMenu(std::string_view menu) { frameView->PopupMenu(ToScreen(menu)); }
+void QtDesktop::PopupMenu(std::string_view menu, int document) {
+    frameView->PopupMenu(ToScreen(menu), document);
+}
 
 void QtDesktop::ArrangeWindows(int how) { frameView->Arrange(how); }
 

@@ -49,11 +49,13 @@ TEST_F(BoxCommands, ToolboxKeysRunTheirCommands) {
         RunBoxCommand(Sheet(), rows[i][1]);
         const Box expected = Boxes[1];
         Restart();
-        Sheet().cmdEventFire = key;
-        cmdEventFire_Click(Sheet());
+        const int document = NewDocument();
+        Sheet(document).cmdEventFire = key;
+        cmdEventFire_Click(Sheet(document));
+        Boxes[1].BoxDocument = expected.BoxDocument;
         EXPECT_EQ(Boxes[1], expected);
         EXPECT_EQ(EditMode, key == "Arrow" ? 3 : key == "Subroutine" ? 1 : 2);
-        EXPECT_EQ(screen.MenusPopped, key == "Subroutine" ? Texts{"mnuSpecSub"} : Texts{});
+        EXPECT_EQ(screen.MenusPopped, key == "Subroutine" ? Texts{"mnuSpecSub|2"} : Texts{});
     }
     for (const char* unknown : {"", "Pause", "sin", "Two Dimentional Inverse FFT"}) {
         Restart();

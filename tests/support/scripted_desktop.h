@@ -24,7 +24,7 @@ struct ScriptedDesktop : QuietDesktop {
     std::vector<std::string> FormsShown;
     std::deque<std::int32_t> Colors;  ///< Chosen colours; cancelled when they run out
     std::vector<std::int32_t> ColorStarts;
-    std::vector<std::string> MenusPopped;
+    std::vector<std::string> MenusPopped;  ///< Menu, "|", document
     std::vector<int> Arrangements;
     std::vector<std::string> Clipboard;  ///< Every text put there
     bool Ended = false;
@@ -65,7 +65,9 @@ struct ScriptedDesktop : QuietDesktop {
         if (Colors.empty()) throw RuntimeError(32755);
         return Take(Colors);
     }
-    void PopupMenu(std::string_view menu) override { MenusPopped.emplace_back(menu); }
+    void PopupMenu(std::string_view menu, int document) override {
+        MenusPopped.push_back(std::string(menu) + "|" + std::to_string(document));
+    }
     void ArrangeWindows(int how) override { Arrangements.push_back(how); }
     void SetClipboardText(const std::string& text) override { Clipboard.push_back(text); }
     int ClockSeconds() override { return Seconds.empty() ? 0 : Take(Seconds); }

@@ -178,6 +178,20 @@ private slots:
         QCOMPARE(program->Box(1)->pos(), QPoint(60, 50));
     }
 
+    void the_subroutine_key_works_for_the_worksheet_under_the_mouse() {
+        program->Choose("mnuFileNew");
+        program->Choose("mnuFileNew");
+        program->Choose("mnuWindowsTile");
+        frmMDI.txtEvent = "Subroutine";
+        QTest::mouseMove(program->Surface(1), {50, 50});
+        QVERIFY(QApplication::activePopupWidget());
+        program->Type(Qt::Key_E);
+        QCOMPARE(Boxes[1].BoxType, "End Subroutine");
+        QCOMPARE(Boxes[1].BoxDocument, 1);
+        program->Choose("mnuMultipleArrows");
+        QVERIFY2(DocumentWindow(2).pnlArrow.HoldsArrow, "the menu bar is the active one's again");
+    }
+
 private:
     std::unique_ptr<Program> program;
 };
