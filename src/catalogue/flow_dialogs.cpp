@@ -64,12 +64,12 @@ void CompleteIf(int box) {
 }
 
 void CompleteWhile(int box) {
-    Boxes[box].BoxText = desktop->InputBox("Enter the condition in Matlab Script", "Quorvane", "");
+    Boxes[box].BoxText = AskForLine("Enter the condition in Matlab Script", "Quorvane", "");
 }
 
 void CompletePickup(int box) {
     Boxes[box].BoxText =
-        desktop->InputBox("Please enter the variable to pick up", "Quorvane", BoxName(box));
+        AskForLine("Please enter the variable to pick up", "Quorvane", BoxName(box));
 }
 
 namespace {
@@ -112,7 +112,7 @@ std::string AskInsertedSubroutine() {
 }
 
 std::string AskStartedSubroutine() {
-    return desktop->InputBox("What is the subroutine's name ?", "Quorvane", "") + " Subroutine";
+    return AskForLine("What is the subroutine's name ?", "Quorvane", "") + " Subroutine";
 }
 
 namespace {

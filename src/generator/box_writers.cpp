@@ -54,7 +54,7 @@ std::string Assigned(int box) { return BoxName(box) + "="; }
 
 bool WriteKeyboardInput(Run& run, int box, int /*slot*/) {
     auto& text = Boxes[box].BoxText;
-    text = desktop->InputBox("Enter the data devided by spaces", "Quorvane: " + BoxName(box), text);
+    text = AskForLine("Enter the data devided by spaces", "Quorvane: " + BoxName(box), text);
     WriteLine(run, Assigned(box) + "[ " + text + " ];");
     return true;
 }

@@ -27,7 +27,7 @@ struct Desktop {
     virtual ~Desktop() = default;
 
     virtual Answer MsgBox(const Message& message) = 0;
-    /// Asks for one line of text; a cancelled prompt gives "".
+    /// Asks for one line of text; a cancelled prompt gives "". The core calls it by AskForLine.
     virtual std::string InputBox(const std::string& prompt, const std::string& title,
                                  const std::string& defaultText) = 0;
     /// Ask for a file. `filter` holds pairs of name and pattern parted by "|", `fileName` is the
@@ -83,6 +83,10 @@ struct Desktop {
 
 /// The desktop in use. Whoever starts the program sets it before anything else runs.
 extern Desktop* desktop;
+
+/// Asks for one line of text by InputBox, and makes it one where line ends were pasted.
+std::string AskForLine(const std::string& prompt, const std::string& title,
+                       const std::string& defaultText);
 
 /// Shows a message with OK alone.
 void Tell(const std::string& text, Icon picture, const std::string& title = "Quorvane");

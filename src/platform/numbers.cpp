@@ -116,4 +116,15 @@ std::string UpperCase(std::string_view text) {
     return upper;
 }
 
+std::string OneLine(std::string_view text) {
+    text = text.substr(0, text.find_last_not_of("\r\n") + 1);
+    std::string line;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isPair = text[i] == '\r' && text[i + 1] == '\n';
+        if (isPair) ++i;
+        line += text[i] == '\r' || text[i] == '\n' ? ' ' : text[i];
+    }
+    return line;
+}
+
 }  // namespace quorvane

@@ -30,4 +30,8 @@ std::string NumberText(std::int64_t number);
 std::string LowerCase(std::string_view text);
 std::string UpperCase(std::string_view text);
 
+/// What a field of one line holds of a text: a blank stands in place of each line end, and those at
+/// the end of the text are left out.
+std::string OneLine(std::string_view text);
+
 }  // namespace quorvane

@@ -14,7 +14,6 @@
 #include <QListView>
 #include <QListWidget>
 #include <QPainter>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -24,6 +23,7 @@
 #include <QWindow>
 
 #include "diagram/preferences.h"
+#include "platform/numbers.h"
 #include "qt/dispatch.h"
 #include "qt/form_layouts.h"
 #include "qt/icon_strip.h"
@@ -60,9 +60,6 @@ void Show(const TextBox& record, QWidget* control) {
     const auto text = ToScreen(record.Text);
     if (auto* line = qobject_cast<QLineEdit*>(control); line && line->text() != text) {
         line->setText(text);
-    }
-    if (auto* edit = qobject_cast<QPlainTextEdit*>(control); edit && edit->toPlainText() != text) {
-        edit->setPlainText(text);
     }
     control->setVisible(record.Visible);
     control->setEnabled(record.Enabled);
@@ -147,10 +144,7 @@ void Take(Button&, QWidget*) {}
 void Take(PictureBox&, QWidget*) {}
 
 void Take(TextBox& record, QWidget* control) {
-    if (auto* line = qobject_cast<QLineEdit*>(control)) record.Text = ToCore(line->text());
-    if (auto* edit = qobject_cast<QPlainTextEdit*>(control)) {
-        record.Text = ToCore(edit->toPlainText());
-    }
+    if (auto* line = qobject_cast<QLineEdit*>(control)) record.Text = OneLine(ToCore(line->text()));
 }
 
 void Take(CheckBox& record, QWidget* control) {
@@ -162,7 +156,8 @@ void Take(OptionButton& record, QWidget* control) {
 }
 
 void Take(ComboBox& record, QWidget* control) {
-    if (auto* combo = qobject_cast<QComboBox*>(control)) record.Text = ToCore(combo->currentText());
+    if (auto* combo = qobject_cast<QComboBox*>(control))
+        record.Text = OneLine(ToCore(combo->currentText()));
     const auto chosen = control->property("chosen");
     if (chosen.isValid()) record.Text = ToCore(chosen.toString());
     control->setProperty("chosen", {});
@@ -250,8 +245,6 @@ void FormView::Connect(const ControlRow& row, QWidget* control) {
     };
     if (auto* line = qobject_cast<QLineEdit*>(control)) {
         connect(line, &QLineEdit::textEdited, this, run);
-    } else if (auto* edit = qobject_cast<QPlainTextEdit*>(control)) {
-        connect(edit, &QPlainTextEdit::textChanged, this, run);
     } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
         connect(combo, &QComboBox::currentTextChanged, this, run);
     } else if (auto* list = qobject_cast<QListWidget*>(control)) {

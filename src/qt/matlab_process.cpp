@@ -293,7 +293,7 @@ void MatlabProcess::Ask(char kind, const QByteArray& question) {
     QByteArray line;
     if (kind == 'i') {
         const auto text = question.toStdString();
-        line = QByteArray::fromStdString(desktop->InputBox(text, "Quorvane", ""));
+        line = QByteArray::fromStdString(AskForLine(text, "Quorvane", ""));
         received_.insert(looked_, question + line + '\n');
     } else {
         Tell("The script waits. OK goes on.", Icon::Information);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QClipboard>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QTest>
 #include <set>
@@ -103,6 +104,18 @@ private slots:
                             Press(QMessageBox::Ok)};
         program->Choose("mnuExeDDE");
         QCOMPARE(QApplication::clipboard()->text(), "box1= [1  -2.5      ; 3         ]; \r\n");
+    }
+
+    void a_field_holds_one_line() {
+        program->Answers = {Play("txtComment=one\r\ntwo\n|cmdOK")};
+        program->Place("mnuSpecComment", {60, 60});
+        QCOMPARE(Boxes[1].BoxText, "one two");
+        program->Answers = {[](QDialog& prompt) {
+            prompt.findChild<QLineEdit*>()->insert("x>1 &\ny<2\n");
+            prompt.accept();
+        }};
+        program->Place("mnuLoopWhile", {60, 120});
+        QCOMPARE(Boxes[2].BoxText, "x>1 & y<2");
     }
 
     void a_list_can_not_be_cancelled() {
