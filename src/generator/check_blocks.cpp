@@ -1,17 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "generator/check_blocks.h"
 
-#include <algorithm>
-
 #include "generator/control_flow.h"
 
 namespace quorvane {
 
 namespace {
-
-bool Contains(const std::vector<int>& boxes, int box) {
-    return std::find(boxes.begin(), boxes.end(), box) != boxes.end();
-}
 
 bool IsCloser(std::string_view type) {
     return type == "Next" || type == "End If" || type == "End Subroutine";
@@ -60,10 +54,13 @@ std::vector<int> Blocks::Behind(int number) {
 /// The boxes that stand on one level with those of `waiting` or behind them.
 std::vector<int> Blocks::Level(std::vector<int> waiting) {
     std::vector<int> level;
+    BoxSet seen;
     while (!waiting.empty()) {
         const int box = waiting.back();
         waiting.pop_back();
-        if (Contains(level, box)) continue;
+        const auto index = static_cast<std::size_t>(box);
+        if (seen[index]) continue;
+        seen[index] = true;
         level.push_back(box);
         for (const int behind : Behind(box)) waiting.push_back(behind);
     }
@@ -81,12 +78,13 @@ Blocks::Block Blocks::Inspect(int number, const std::vector<int>& exits) {
     for (const int each : level) {
         if (each == number || CloserOf(Boxes[each].BoxType).empty()) continue;
         const auto& inside = Whole(each);
-        for (const auto* closers : {&inside.Closers, &inside.Inner}) {
-            block.Inner.insert(block.Inner.end(), closers->begin(), closers->end());
-        }
+        block.Inner |= inside.Inner;
+        for (const int closer : inside.Closers)
+            block.Inner[static_cast<std::size_t>(closer)] = true;
     }
     for (const int each : level) {
-        if (Boxes[each].BoxType == CloserOf(box.BoxType) && !Contains(block.Inner, each)) {
+        if (Boxes[each].BoxType == CloserOf(box.BoxType) &&
+            !block.Inner[static_cast<std::size_t>(each)]) {
             block.Closers.push_back(each);
         }
     }

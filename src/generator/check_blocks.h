@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <bitset>
 #include <map>
 #include <string_view>
 #include <vector>
@@ -27,9 +28,11 @@ public:
     std::vector<int> Inside(int box, const std::vector<int>& exits);
 
 private:
+    /// A set of boxes by their numbers.
+    using BoxSet = std::bitset<MaxBoxes + 1>;
     struct Block {
         std::vector<int> Closers;
-        std::vector<int> Inner;  ///< The closing boxes of the blocks inside, at any depth
+        BoxSet Inner;  ///< The closing boxes of the blocks inside, at any depth
     };
     const Block& Whole(int box);
     Block Inspect(int number, const std::vector<int>& exits);

@@ -32,22 +32,57 @@ struct WatchingDesktop : QuietDesktop {
     }
 };
 
+/// What a run changes, and puts back at the end of the scope, whatever ends it.
+class KeptState {
+public:
+    explicit KeptState(Desktop* inBetween) {
+        ForEachOpenDocument([this](const Worksheet& sheet, int) {
+            sheets_.push_back({sheet.MousePointer, sheet.pnlResource.Value});
+        });
+        desktop = inBetween;
+    }
+    ~KeptState() {
+        desktop = desktop_;
+        Boxes = boxes_;
+        Front = std::move(front_);
+        FrameStack = std::move(frames_);
+        frontWidth = width_;
+        nestingDepth = depth_;
+        EditMode = mode_;
+        lastRunEnd = lastEnd_;
+        auto kept = sheets_.begin();
+        ForEachOpenDocument([&](Worksheet& sheet, int) {
+            sheet.MousePointer = kept->Pointer;
+            sheet.pnlResource.Value = kept->Gauge;
+            ++kept;
+        });
+    }
+    KeptState(const KeptState&) = delete;
+    KeptState& operator=(const KeptState&) = delete;
+
+private:
+    struct KeptSheet {
+        int Pointer;
+        double Gauge;
+    };
+    Desktop* desktop_ = desktop;
+    decltype(Boxes) boxes_ = Boxes;
+    decltype(Front) front_ = Front;
+    decltype(FrameStack) frames_ = FrameStack;
+    decltype(frontWidth) width_ = frontWidth;
+    decltype(nestingDepth) depth_ = nestingDepth;
+    decltype(EditMode) mode_ = EditMode;
+    RunEnd lastEnd_ = lastRunEnd;
+    std::vector<KeptSheet> sheets_;
+};
+
 }  // namespace
 
 TrialEnd TryCompiling(int document) {
-    const auto boxes = Boxes;
-    const auto front = Front;
-    const auto frames = FrameStack;
-    const auto width = frontWidth;
-    const auto depth = nestingDepth;
-    const auto mode = EditMode;
-    const auto lastEnd = lastRunEnd;
-    auto* const person = desktop;
-
     TrialEnd end;
     WatchingDesktop nobody;
     nobody.End = &end;
-    desktop = &nobody;
+    const KeptState kept(&nobody);
     try {
         end.Script = CompileDocument(1, NumberText(document));
         end.Done = lastRunEnd == RunEnd::Done;
@@ -55,16 +90,6 @@ TrialEnd TryCompiling(int document) {
         end.Error = error.Number;
     }
     end.Depth = nestingDepth;
-
-    desktop = person;
-    Boxes = boxes;
-    Front = front;
-    FrameStack = frames;
-    frontWidth = width;
-    nestingDepth = depth;
-    EditMode = mode;
-    lastRunEnd = lastEnd;
-    UpdateBoxGauge(BoxTableFill());
     return end;
 }
 

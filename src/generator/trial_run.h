@@ -12,7 +12,7 @@ struct WaitingBox {
     int Feeder = 0;
 };
 
-/// How a run would end that nobody watches.
+/// Outcome of an unattended run.
 struct TrialEnd {
     bool Done = false;                ///< It came to its end
     int Error = 0;                    ///< The run-time error that ended it, 0 for none

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-// Loads the input as a diagram file, compiles it, saves it and loads it again. A run may end in any
-// of its ways, in a run-time error too; it may not crash, hang, ask for ever or leave marks behind,
-// and what was saved must come back.
+// Loads the input as a diagram file, checks it, compiles it, saves it and loads it again. A run may
+// end in any of its ways, in a run-time error too; it may not crash, hang, ask for ever or leave
+// marks behind, and what was saved must come back.
 
 #include "catalogue/matrix_input.h"
 #include "diagram/box_table.h"
@@ -9,6 +9,7 @@
 #include "files/document_file.h"
 #include "files/settings.h"
 #include "fuzz/fuzz_support.h"
+#include "generator/check_document.h"
 #include "generator/compile_document.h"
 
 using namespace quorvane;
@@ -147,6 +148,17 @@ void SaveAndLoadAgain(CyclicDesktop& screen, int document) {
     }
 }
 
+/// A check tells each finding with its advice and changes nothing.
+void CheckLeavesNoTrace(int document) {
+    const auto boxes = Boxes;
+    const auto* const before = desktop;
+    for (const auto& finding : CheckDocument(document)) {
+        Check(finding.Box >= 0 && finding.Box < NextBox, "a finding at no box");
+        Check(!finding.Text.empty() && !finding.Advice.empty(), "a finding without a text");
+    }
+    Check(Boxes == boxes && desktop == before, "a check left a trace");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -159,6 +171,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         if (screen.Hash / 256 % 4 == 0) LoadBehindItself(path);
         Check(NextBox >= 1 && NextBox <= MaxBoxes + 1, "a load left a wrong number of boxes");
         const int document = Documents.UpperBound();
+        CheckLeavesNoTrace(document);
         Compile(screen, document);
         SaveAndLoadAgain(screen, document);
     });

@@ -2,6 +2,7 @@
 #include "generator/check_document.h"
 
 #include <algorithm>
+#include <ctime>
 #include <filesystem>
 
 #include "generator/generator_fixture.h"
@@ -13,6 +14,8 @@ protected:
     /// The findings as "number text", after a check that must leave everything as it was.
     Texts Check() {
         const auto boxes = Boxes;
+        Sheet().MousePointer = PointerCross;
+        Sheet().pnlResource.Value = 40;
         Texts texts;
         for (const auto& finding : CheckDocument(1)) {
             texts.push_back(std::to_string(finding.Box) + " " + finding.Text);
@@ -20,6 +23,8 @@ protected:
             EXPECT_FALSE(finding.Advice.empty());
         }
         EXPECT_EQ(Boxes, boxes);
+        EXPECT_EQ(Sheet().MousePointer, PointerCross);
+        EXPECT_EQ(Sheet().pnlResource.Value, 40);
         EXPECT_EQ(desktop, &screen);
         EXPECT_TRUE(screen.Messages.empty());
         return texts;
@@ -58,6 +63,15 @@ TEST_F(CheckTest, WhateverDoesNotEndWellIsFound) {
             EXPECT_TRUE(endsWell || !found.empty()) << expected.back();
         }
     }
+}
+
+/// Each loop leads into the next two.
+TEST_F(CheckTest, ManyNestedBlocksTakeNoTime) {
+    for (int i = 1; i < MaxBoxes; ++i) Draw({{"For", "1:3", {i == 1 ? 0 : i - 1}, {i + 1, i + 2}}});
+    Draw({{"Next", "", {MaxBoxes - 1}}});
+    const auto start = std::clock();
+    EXPECT_FALSE(Check().empty());
+    EXPECT_LT(std::clock() - start, 5 * CLOCKS_PER_SEC);
 }
 
 TEST_F(CheckTest, ExamplesAreClean) {
