@@ -2,8 +2,13 @@
 #include "shell/application.h"
 
 #include "catalogue/command_browser_door.h"
+#include "catalogue/flow_dialogs.h"
+#include "catalogue/function_dialogs.h"
 #include "catalogue/icon_table.h"
+#include "catalogue/matrix_dialogs.h"
 #include "catalogue/matrix_input.h"
+#include "catalogue/option_lists.h"
+#include "catalogue/plot_box.h"
 #include "diagram/box_info.h"
 #include "diagram/box_table.h"
 #include "diagram/comment_form.h"
@@ -28,6 +33,39 @@
 
 namespace quorvane {
 
+namespace {
+
+void ResetForms() {
+    frmAbout = {};
+    frmComment = {};
+    frmConfigToolbox = {};
+    frmDirectory = {};
+    frmDisclaimer = {};
+    frmForLoop = {};
+    frmFunc = {};
+    frmIf = {};
+    frmInfo = {};
+    frmMakeMat = {};
+    frmMakeVector = {};
+    frmMatlab = {};
+    frmMatlabFunction = {};
+    frmMatrix = {};
+    frmOptionList = {};
+    frmPageView = {};
+    frmPause = {};
+    frmPictures = {};
+    frmPlot = {};
+    frmPrefs = {};
+    frmScanning = {};
+    frmSplash = {};
+    frmSplit = {};
+    frmSubs = {};
+    frmTextResults = {};
+    frmUserInput = {};
+}
+
+}  // namespace
+
 void ResetApplication() {
     CloseAllFiles();
     ResetBoxTable();
@@ -37,26 +75,14 @@ void ResetApplication() {
     PageBottom = 0;
     ResetFront();
     lastRunEnd = RunEnd::None;
-    lastLoad = {};
+    ResetDocumentFile();
     icons = {};
     ResetMFileIndex();
     OpenCommandBrowser = ShowCommandBrowser;
     ProgramDirectory.clear();
+    HelpFile = Manual;
     TourStep = 0;
-    frmAbout = {};
-    frmComment = {};
-    frmConfigToolbox = {};
-    frmDirectory = {};
-    frmDisclaimer = {};
-    frmInfo = {};
-    frmMatlab = {};
-    frmMatrix = {};
-    frmPageView = {};
-    frmPictures = {};
-    frmPrefs = {};
-    frmScanning = {};
-    frmSplash = {};
-    frmTextResults = {};
+    ResetForms();
 }
 
 }  // namespace quorvane

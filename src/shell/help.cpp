@@ -13,8 +13,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr const char* Manual = "QUORVANE.HLP";
-
 enum HelpCommand { Contents = 3, HowTo = 4, PartialKey = 261 };
 
 const char* const RunningLine =
@@ -34,6 +32,7 @@ std::string InProgramDirectory(const std::string& file) {
 
 }  // namespace
 
+const char* const Manual = "QUORVANE.HLP";
 std::string HelpFile = Manual;
 AboutForm frmAbout;
 DisclaimerForm frmDisclaimer;

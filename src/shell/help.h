@@ -12,6 +12,7 @@ namespace quorvane {
 /// The manual's file. A name without a folder lies in the program directory; "" means that the
 /// program has no manual.
 extern std::string HelpFile;
+extern const char* const Manual;
 
 void mnuHelpContents_Click();
 void mnuHelpHowTo_Click();
