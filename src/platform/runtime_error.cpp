@@ -11,6 +11,7 @@ const char* RuntimeErrorText(int number) {
         case 9: return "Subscript out of range";
         case 13: return "Type mismatch";
         case 14: return "Out of string space";
+        case 51: return "Internal error";
         case 52: return "Bad file name or number";
         case 53: return "File not found";
         case 54: return "Bad file mode";

@@ -13,6 +13,20 @@ std::function<void()> RefreshScreen = [] {};
 
 namespace {
 
+/// Whatever a handler let out, as a run-time error.
+RuntimeError ErrorOf(const std::exception_ptr& thrown) {
+    constexpr int outOfMemory = 7, internalError = 51;
+    try {
+        std::rethrow_exception(thrown);
+    } catch (const RuntimeError& error) {
+        return error;
+    } catch (const std::bad_alloc&) {
+        return RuntimeError(outOfMemory);
+    } catch (...) {
+        return RuntimeError(internalError);
+    }
+}
+
 /// Saves what is open, says what happened and where it was saved, and ends.
 [[noreturn]] void EndAfter(const RuntimeError& error) {
     QString text = QString("Run-time error '%1':\n%2")
@@ -33,8 +47,8 @@ void Dispatch(const std::function<void()>& handler) {
     try {
         handler();
         RefreshScreen();
-    } catch (const RuntimeError& error) {
-        EndAfter(error);
+    } catch (...) {
+        EndAfter(ErrorOf(std::current_exception()));
     }
 }
 
