@@ -130,7 +130,7 @@ void BoxView::StartDrag() {
     pressed_ = false;
     auto* drag = new QDrag(this);
     auto* carried = new QMimeData;
-    carried->setData(BoxMimeType, QByteArray::number(number_));
+    carried->setData(DragType(BoxDrag), QByteArray::number(number_));
     drag->setMimeData(carried);
     drag->setPixmap(grab());
     drag->setHotSpot(rect().center());

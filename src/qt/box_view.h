@@ -8,9 +8,6 @@
 
 namespace quorvane {
 
-/// The type under which a dragged box travels; its data is the box's number.
-constexpr const char* BoxMimeType = "application/x-quorvane-box";
-
 /// The control of one box on a worksheet.
 class BoxView : public QWidget {
 public:

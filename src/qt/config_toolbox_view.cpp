@@ -20,7 +20,7 @@ namespace quorvane {
 
 namespace {
 
-constexpr const char* TileMimeType = "application/x-quorvane-catalogue-icon";
+const QString TileDrag = "catalogue-icon";
 constexpr int PageTiles = 18;
 constexpr int RowTiles = 6;
 
@@ -61,7 +61,7 @@ void IconTile::mouseMoveEvent(QMouseEvent* event) {
         (event->pos() - pressedAt_).manhattanLength() >= QApplication::startDragDistance();
     if (Carried.isEmpty() || cell_ <= 0 || !(event->buttons() & Qt::LeftButton) || !far) return;
     auto* carried = new QMimeData;
-    carried->setData(TileMimeType, Carried);
+    carried->setData(DragType(TileDrag), Carried);
     auto* drag = new QDrag(this);
     drag->setMimeData(carried);
     drag->setPixmap(CellPixmap(cell_, width(), devicePixelRatioF()));
@@ -199,12 +199,12 @@ bool ConfigToolboxView::eventFilter(QObject* watched, QEvent* event) {
     if (watched != panel_) return FormView::eventFilter(watched, event);
     if (event->type() == QEvent::DragEnter) {
         auto* drag = static_cast<QDragEnterEvent*>(event);
-        if (drag->mimeData()->hasFormat(TileMimeType)) drag->acceptProposedAction();
+        if (drag->mimeData()->hasFormat(DragType(TileDrag))) drag->acceptProposedAction();
         return true;
     }
     if (event->type() == QEvent::Drop) {
         auto* drop = static_cast<QDropEvent*>(event);
-        const int index = drop->mimeData()->data(TileMimeType).toInt();
+        const int index = drop->mimeData()->data(DragType(TileDrag)).toInt();
         drop->acceptProposedAction();
         Dispatch([index] { frmConfigToolbox_pnlToolbox_DragDrop(index); });
         return true;

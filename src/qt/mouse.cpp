@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "qt/mouse.h"
 
+#include <QUuid>
+
 #include "diagram/worksheet_events.h"
 
 namespace quorvane {
@@ -19,6 +21,11 @@ int ShiftNumber(Qt::KeyboardModifiers modifiers) {
     if (modifiers & Qt::ControlModifier) number |= CtrlKey;
     if (modifiers & Qt::AltModifier) number |= AltKey;
     return number;
+}
+
+QString DragType(const QString& what) {
+    static const auto program = QUuid::createUuid().toString(QUuid::WithoutBraces);
+    return "application/x-quorvane-" + what + "-" + program;
 }
 
 }  // namespace quorvane

@@ -9,4 +9,9 @@ namespace quorvane {
 int ButtonNumber(Qt::MouseButtons buttons);
 int ShiftNumber(Qt::KeyboardModifiers modifiers);
 
+/// The type of what is dragged within this program. Another Quorvane, whose numbers mean something
+/// else here, has another type.
+inline const QString BoxDrag = "box";  ///< A box of a worksheet; the data is its number
+QString DragType(const QString& what);
+
 }  // namespace quorvane

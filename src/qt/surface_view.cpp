@@ -120,11 +120,12 @@ void SurfaceView::mouseReleaseEvent(QMouseEvent* event) {
 }
 
 void SurfaceView::dragEnterEvent(QDragEnterEvent* event) {
-    if (event->mimeData()->hasFormat(BoxMimeType)) event->acceptProposedAction();
+    if (event->mimeData()->hasFormat(DragType(BoxDrag))) event->acceptProposedAction();
 }
 
 void SurfaceView::dropEvent(QDropEvent* event) {
-    const int number = event->mimeData()->data(BoxMimeType).toInt();
+    if (!event->mimeData()->hasFormat(DragType(BoxDrag))) return;
+    const int number = event->mimeData()->data(DragType(BoxDrag)).toInt();
     const auto at = event->position().toPoint();
     event->acceptProposedAction();
     Dispatch([&] { main_DragDrop(Sheet(), number, ToUnits(at.x()), ToUnits(at.y())); });

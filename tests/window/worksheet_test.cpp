@@ -2,8 +2,10 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDropEvent>
 #include <QLabel>
 #include <QMessageBox>
+#include <QMimeData>
 #include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
@@ -189,6 +191,11 @@ private slots:
 
     void the_bubble_names_the_box_under_the_mouse() {
         program->Place("mnuTrigSin", {60, 50});
+        QMimeData theirs;
+        theirs.setData("application/x-quorvane-box", "1");
+        QDropEvent drop({300, 300}, Qt::MoveAction, &theirs, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(program->Surface(), &drop);
+        QVERIFY2(box->pos() == QPoint(184, 134), "another program's box is none of this one's");
         const auto text = [&] {
             const auto* bubble = static_cast<QLabel*>(program->Part("txtboxname"));
             return bubble ? bubble->text() : QString();
