@@ -131,12 +131,9 @@ void SurfaceView::dropEvent(QDropEvent* event) {
     Dispatch([&] { main_DragDrop(Sheet(), number, ToUnits(at.x()), ToUnits(at.y())); });
 }
 
-/// The worksheet scrolls by its bars; the wheel over the sheet turns the upright one, with Shift or
-/// a sideways wheel the level one.
+/// Scrolling is the worksheet's.
 void SurfaceView::wheelEvent(QWheelEvent* event) {
-    const bool sideways = event->angleDelta().y() == 0 || (event->modifiers() & Qt::ShiftModifier);
-    auto* bar = parentWidget()->findChild<QWidget*>(sideways ? "scrH" : "scrV");
-    if (bar) QCoreApplication::sendEvent(bar, event);
+    QCoreApplication::sendEvent(parentWidget(), event);
 }
 
 QPoint SurfaceView::MovePointer(QPoint by) {

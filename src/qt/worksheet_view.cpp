@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/worksheet_view.h"
 
+#include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
@@ -21,6 +22,9 @@
 namespace quorvane {
 
 namespace {
+
+/// What a notch of the wheel moves the sheet by: somewhat more than a box.
+constexpr int NotchUnits = 600;
 
 /// The face of pnlArrow: the line colour, and the arrow while multiple arrows are on.
 QIcon ArrowPanelFace(const ArrowPanel& panel, const QSize& size, qreal ratio) {
@@ -82,8 +86,10 @@ void WorksheetView::MakeBars() {
     scrV_->setObjectName("scrV");
     scrV_->setAccessibleName("Scroll up and down");
     // A pull of the thumb counts once, where it ends: the sheet grows by one step at its end.
-    scrH_->setTracking(false);
-    scrV_->setTracking(false);
+    for (auto* bar : {scrH_, scrV_}) {
+        bar->setTracking(false);
+        bar->installEventFilter(this);
+    }
     corner_ = new QWidget(this);
     corner_->setObjectName("pctblank");
     connect(arrowPanel_, &QToolButton::clicked, this,
@@ -108,6 +114,40 @@ void WorksheetView::resizeEvent(QResizeEvent*) {
         Sheet().ScaleHeight = ToUnits(height());
         main_Resize(Sheet());
     });
+}
+
+/// A notch of the wheel moves the sheet by as much on both axes; with Shift it moves sideways. The
+/// rest of a fine wheel's turn waits for the next.
+void WorksheetView::wheelEvent(QWheelEvent* event) {
+    auto turn = event->angleDelta();
+    if (event->modifiers() & Qt::ShiftModifier && turn.x() == 0) turn = turn.transposed();
+    turned_ += turn * NotchUnits;
+    const QPoint units = turned_ / QWheelEvent::DefaultDeltasPerStep;
+    turned_ -= units * QWheelEvent::DefaultDeltasPerStep;
+    if (units.x() != 0) scrH_->setValue(scrH_->value() - units.x());
+    if (units.y() != 0) scrV_->setValue(scrV_->value() - units.y());
+    event->accept();
+}
+
+/// The bars' own steps are for their arrows; the wheel does the same over a bar as over the sheet.
+bool WorksheetView::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Wheel) return QWidget::eventFilter(watched, event);
+    wheelEvent(static_cast<QWheelEvent*>(event));
+    return true;
+}
+
+/// What the sheet and its boxes leave: the keys that scroll, with Shift sideways.
+void WorksheetView::keyPressEvent(QKeyEvent* event) {
+    auto* bar = event->modifiers() & Qt::ShiftModifier ? scrH_ : scrV_;
+    const int page = static_cast<int>(
+        ToUnits(bar == scrH_ ? surface_->width() : surface_->height()) - NotchUnits);
+    switch (event->key()) {
+        case Qt::Key_PageUp: return bar->setValue(bar->value() - page);
+        case Qt::Key_PageDown: return bar->setValue(bar->value() + page);
+        case Qt::Key_Home: return bar->setValue(bar->minimum());
+        case Qt::Key_End: return bar->setValue(bar->maximum());
+        default: QWidget::keyPressEvent(event);
+    }
 }
 
 void WorksheetView::Refresh() {

@@ -27,6 +27,9 @@ public:
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     Worksheet& Sheet() const { return DocumentWindow(document_); }
@@ -44,6 +47,7 @@ private:
     QWidget* corner_;
     QLabel* bubble_;
     TourView* tour_;
+    QPoint turned_;                ///< What the wheel has turned that makes no whole unit yet
     std::vector<BoxView*> boxes_;  ///< By box number; nullptr where there is none
 };
 

@@ -263,12 +263,42 @@ private slots:
         }
         QCOMPARE(bar->maximum(), 10000);
         QCOMPARE(program->Box(1)->y(), 250 - 9000 / 15);
-        bar->setValue(0);
-        QWheelEvent turn({50, 50}, program->Surface()->mapToGlobal(QPointF(50, 50)), {}, {0, -120},
-                         Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(program->Surface(), &turn);
-        QVERIFY(bar->value() > 0);
-        QCOMPARE(program->Box(1)->y(), 250 - bar->value() / 15);
+    }
+
+    void the_sheet_is_scrolled_by_wheel_and_keys() {
+        program->Place("mnuTrigSin", {60, 250});
+        const auto bar = [&](const char* name) {
+            return static_cast<QScrollBar*>(program->Part(name));
+        };
+        const auto at = [&] { return QPoint(bar("scrH")->value(), bar("scrV")->value()); };
+        const auto turn = [&](const char* over, QPoint by, Qt::KeyboardModifiers keys = {}) {
+            auto* part = program->Part(over);
+            QWheelEvent event({5, 5}, part->mapToGlobal(QPointF(5, 5)), {}, by, Qt::NoButton, keys,
+                              Qt::NoScrollPhase, false);
+            QCoreApplication::sendEvent(part, &event);
+            return at();
+        };
+        QCOMPARE(turn("surface", {0, -120}), QPoint(0, 600));
+        QCOMPARE(program->Box(1)->pos(), QPoint(60, 250 - 40));
+        QCOMPARE(turn("surface", {0, -120}, Qt::ShiftModifier), QPoint(600, 600));
+        QCOMPARE(turn("surface", {-60, 0}), QPoint(900, 600));
+        QCOMPARE(turn("scrH", {0, 60}, Qt::ShiftModifier), QPoint(600, 600));
+        for (int i = 0; i < 7; ++i) turn("scrV", {0, 1});
+        QCOMPARE(at(), QPoint(600, 565));
+        QCOMPARE(turn("scrV", {600, 240}), QPoint(0, 0));
+        QCOMPARE(program->Box(1)->pos(), QPoint(60, 250));
+
+        const int page = program->Surface()->height() * 15 - 600;
+        program->Type(Qt::Key_PageDown);
+        QCOMPARE(at(), QPoint(0, qMin(page, 7000)));
+        program->Type(Qt::Key_PageUp);
+        program->Type(Qt::Key_End);
+        QCOMPARE(at(), QPoint(0, 7000));
+        program->Type(Qt::Key_PageDown, Qt::ShiftModifier);
+        QCOMPARE(at(), QPoint(program->Surface()->width() * 15 - 600, 7000));
+        program->Type(Qt::Key_Home, Qt::ShiftModifier);
+        program->Type(Qt::Key_Home);
+        QCOMPARE(at(), QPoint(0, 0));
     }
 
     void the_page_view_shows_the_sheet_at_small_scale() {
