@@ -31,13 +31,15 @@ QPolygonF Slice(const DrawnShape& pie) {
 }
 
 /// Lines along an axis, as those of arrows are, are filled as rectangles: that costs a third of
-/// what a pen does.
+/// what a pen does. A vertical one ends on a whole pixel, as boxes do, so that none looks out from
+/// behind its box on a finer screen.
 void PaintLine(QPainter& painter, const DrawnShape& line, const QColor& color) {
     const QPointF from = QPointF(line.X1, line.Y1) / UnitsPerPixel;
     const QPointF to = QPointF(line.X2, line.Y2) / UnitsPerPixel;
     const double half = line.Width / 2.0;
     if (from.x() == to.x()) {
-        painter.fillRect(QRectF(from, to).normalized().adjusted(-half, 0, half, 0), color);
+        const QRectF leg(QPointF(from.x(), ToPixels(line.Y1)), QPointF(to.x(), ToPixels(line.Y2)));
+        painter.fillRect(leg.normalized().adjusted(-half, 0, half, 0), color);
     } else if (from.y() == to.y()) {
         painter.fillRect(QRectF(from, to).normalized().adjusted(0, -half, 0, half), color);
     } else {

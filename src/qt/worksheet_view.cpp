@@ -200,15 +200,15 @@ void WorksheetView::RefreshBoxes() {
 void WorksheetView::RefreshBubble() {
     const auto& bubble = Sheet().txtboxname;
     const auto text = ToScreen(bubble.Caption);
+    const bool shows = bubble.Visible && !text.isEmpty();
     const QPoint place(ToPixels(bubble.Left), ToPixels(bubble.Top));
-    if (bubble.Visible &&
-        (bubble_->text() != text || bubble_->pos() != place || !bubble_->isVisible())) {
+    if (shows && (bubble_->text() != text || bubble_->pos() != place || !bubble_->isVisible())) {
         bubble_->setText(text);
         bubble_->adjustSize();
         bubble_->move(place);
         bubble_->raise();
     }
-    if (bubble_->isVisibleTo(surface_) != bubble.Visible) bubble_->setVisible(bubble.Visible);
+    if (bubble_->isVisibleTo(surface_) != shows) bubble_->setVisible(shows);
 }
 
 }  // namespace quorvane
