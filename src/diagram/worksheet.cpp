@@ -14,9 +14,9 @@ FrameWindow frmMDI;
 Worksheet::Worksheet() {
     pnlResource.Place = {0, 6810, 1800, 390};
     pnlArrow.Place = {1800, 6810, 600, 390};
-    pctblank = {9345, 6810, 255, 390};
+    pctblank = {9345, 6945, 255, 255};
     scrH.Place = {2400, 6810, 6945, 390};
-    scrV.Place = {9345, 0, 255, 6810};
+    scrV.Place = {9345, 0, 255, 6945};
     scrV.Max = 7000;
     scrV.SmallChange = 200;
     scrV.LargeChange = 500;

@@ -108,6 +108,7 @@ void frmTextResults_cmdOK_Click() { frmTextResults = {}; }
 void mnuEXEMatlab_Click(Worksheet& sheet) {
     if (!frmTextResults.Form.Loaded) frmTextResults_Load();
     frmTextResults.Form.Visible = true;
+    frmTextResults.Minimized = false;
     CompileDocument(0, sheet.Tag);
     frmTextResults.txt.Text += desktop->LinkFinish();
 }

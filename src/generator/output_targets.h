@@ -22,6 +22,7 @@ struct LinkBox {
 /// worksheets and is no dialog.
 struct TextResultsForm {
     FormState Form = {.Caption = "Matlab Text Results"};
+    bool Minimized = false;
     TextBox txt;     ///< The log: each script that was sent, and what was printed for it
     Label lblState;  ///< What the link is waiting for, "" while it waits for nothing
     Button cmdOK = {.Caption = "OK"};

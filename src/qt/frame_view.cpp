@@ -9,6 +9,8 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QScreen>
+#include <QVBoxLayout>
+#include <cmath>
 
 #include "files/close_document.h"
 #include "qt/dispatch.h"
@@ -25,6 +27,47 @@ namespace quorvane {
 FrameView* frameView = nullptr;
 
 namespace {
+
+/// Icons stand side by side.
+void PlaceIcons(const QList<QMdiSubWindow*>& icons, int top) {
+    int x = 0;
+    for (auto* icon : icons) {
+        icon->move(x, top);
+        x += icon->width();
+    }
+}
+
+/// Each window lies lower and further to the right than the one behind it, so that all titles show;
+/// at the edge they begin anew.
+void Cascade(const QList<QMdiSubWindow*>& windows, const QRect& space) {
+    constexpr int share = 4;  // of which a window takes three
+    const QSize size = space.size() * (share - 1) / share;
+    QPoint at;
+    for (auto* window : windows) {
+        window->resize(size);
+        window->move(at);
+        const int step = window->widget()->y() + 1;
+        at += QPoint(step, step);
+        if (!space.contains(QRect(at, size))) at = {};
+    }
+}
+
+/// As many columns as leave the windows wider than high, the later ones with a window more where
+/// it doesn't come out even.
+void Tile(const QList<QMdiSubWindow*>& windows, const QRect& space) {
+    const int count = static_cast<int>(windows.size());
+    const int columns = static_cast<int>(std::sqrt(count));
+    int next = 0;
+    for (int column = 0; column < columns; ++column) {
+        const int rows = (count - next) / (columns - column);
+        for (int row = 0; row < rows; ++row) {
+            const QPoint start(space.width() * column / columns, space.height() * row / rows);
+            const QPoint end(space.width() * (column + 1) / columns,
+                             space.height() * (row + 1) / rows);
+            windows[next++]->setGeometry(QRect(start, end - QPoint(1, 1)));
+        }
+    }
+}
 
 /// A worksheet's window, which is closed by the rules of its document.
 class WorksheetWindow : public QMdiSubWindow {
@@ -60,7 +103,16 @@ FrameView::FrameView() {
     area_ = new QMdiArea(this);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    setCentralWidget(area_);
+    auto* bar = new QWidget;
+    bar->setObjectName("Picture1");
+    bar->setFixedHeight(0);
+    auto* inner = new QWidget(this);
+    auto* rows = new QVBoxLayout(inner);
+    rows->setContentsMargins(0, 0, 0, 0);
+    rows->setSpacing(0);
+    rows->addWidget(bar);
+    rows->addWidget(area_);
+    setCentralWidget(inner);
     toolbox_ = new ToolboxView(this);
     results_ = new ResultsView(this);
     splash_ = std::make_unique<SplashView>();
@@ -161,11 +213,8 @@ void FrameView::ListWindows() {
             auto* action = menu->addAction(QString());
             action->setCheckable(true);
             action->setObjectName(QString("mnuWindowList(%1)").arg(i + 1));
-            connect(action, &QAction::triggered, this, [this, i] {
-                const auto open = area_->subWindowList();
-                if (i < open.size()) area_->setActiveSubWindow(open[i]);
-                ShowMenus();
-            });
+            connect(action, &QAction::triggered, this,
+                    [this, i] { Dispatch([this, i] { Choose(i); }); });
             windowList_.append(action);
         }
         auto* view = static_cast<WorksheetView*>(windows[i]->widget());
@@ -177,17 +226,26 @@ void FrameView::ListWindows() {
     }
 }
 
+/// A worksheet of the list comes to the front, also out of its icon.
+void FrameView::Choose(int listed) {
+    const auto windows = area_->subWindowList();
+    if (listed >= windows.size()) return;
+    if (windows[listed]->isMinimized()) windows[listed]->showNormal();
+    area_->setActiveSubWindow(windows[listed]);
+}
+
+/// Worksheets that are icons stay icons, and keep their row at the lower edge free of the others.
 void FrameView::Arrange(int how) {
-    if (how == 0) area_->cascadeSubWindows();
-    if (how == 1) area_->tileSubWindows();
-    if (how != 2) return;
-    // Icons of minimised worksheets go to the lower edge, side by side.
-    int x = 0;
-    for (auto* window : area_->subWindowList()) {
-        if (!window->isMinimized()) continue;
-        window->move(x, area_->viewport()->height() - window->height());
-        x += window->width();
+    QList<QMdiSubWindow*> icons, open;
+    for (auto* window : area_->subWindowList(QMdiArea::StackingOrder)) {
+        (window->isMinimized() ? icons : open).append(window);
     }
+    auto space = area_->viewport()->rect();
+    if (!icons.isEmpty()) space.setHeight(space.height() - icons.first()->height());
+    if (how == 2) return PlaceIcons(icons, space.height());
+    for (auto* window : open) window->showNormal();
+    if (how == 0) Cascade(open, space);
+    if (how == 1) Tile(open, space);
 }
 
 void FrameView::PopupMenu(const QString& control, int document) {

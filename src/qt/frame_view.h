@@ -39,6 +39,7 @@ private:
     void Activated(QMdiSubWindow* window);
     void ShowMenus();
     void ListWindows();
+    void Choose(int listed);
 
     QMdiArea* area_;
     ToolboxView* toolbox_;

@@ -53,6 +53,7 @@ void ResultsView::Refresh() {
     setWindowTitle(ToScreen(form.Form.Caption));
     lblState_->setText(ToScreen(form.lblState.Caption));
     Grow();
+    if (form.Form.Visible && isMinimized() && !form.Minimized) showNormal();
     if (isVisible() == form.Form.Visible) return;
     if (form.Form.Visible && !testAttribute(Qt::WA_Moved)) MoveIntoCorner();
     setVisible(form.Form.Visible);
@@ -79,6 +80,11 @@ void ResultsView::Grow() {
     end.insertText(ToScreen(std::string_view(log).substr(shown_.size())));
     shown_ = log;
     if (atEnd) bar->setValue(bar->maximum());
+}
+
+void ResultsView::changeEvent(QEvent* event) {
+    QWidget::changeEvent(event);
+    if (event->type() == QEvent::WindowStateChange) frmTextResults.Minimized = isMinimized();
 }
 
 void ResultsView::closeEvent(QCloseEvent* event) {

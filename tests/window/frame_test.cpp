@@ -155,6 +155,61 @@ private slots:
     }
 
     void worksheets_are_minimised_and_maximised() {
+    void nothing_starts_behind_a_dialog() {
+        WriteAll("quorvane.ini", "[Prefrences]\r\n");
+        for (const char* command : {"mnuExeDDE", "mnuOptionsPrefs"}) {
+            program->Start();
+            program->Choose("mnuFileNew");
+            auto* bar = static_cast<QAbstractSlider*>(program->Part("scrV"));
+            program->Answers = {[&](QDialog& dialog) {
+                program->Choose("mnuFileNew");
+                program->Choose("mnuExit");
+                program->Frame().close();
+                bar->setValue(500);
+                QTRY_COMPARE(bar->value(), 0);
+                Play(dialog.objectName() == "frmPrefs" ? "cmdOK" : "")(dialog);
+                if (dialog.isVisible()) QTest::keyClick(&dialog, Qt::Key_Return);
+            }};
+            program->Choose(command);
+            QVERIFY(program->Answers.empty());
+            QVERIFY(program->Window(1) && !program->Window(2) && program->Frame().isVisible());
+            program->Choose("mnuFileNew");
+            QVERIFY(program->Window(2));
+        }
+    }
+
+    void worksheets_are_arranged_but_for_icons() {
+        for (int i = 0; i < 3; ++i) program->Choose("mnuFileNew");
+        program->Window(2)->showMinimized();
+        program->Choose("mnuWindowsCascade");
+        const auto room = program->Frame().Area()->viewport()->rect();
+        const auto shape = [&](int document) { return program->Window(document)->geometry(); };
+        for (const int open : {1, 3}) {
+            QVERIFY(room.contains(shape(open)) && shape(open).width() > room.width() / 2);
+        }
+        QVERIFY(shape(1).topLeft() != shape(3).topLeft());
+        program->Choose("mnuWindowsTile");
+        const auto both = shape(1) | shape(3);
+        QVERIFY(!shape(1).intersects(shape(3)));
+        QCOMPARE(both, room.adjusted(0, 0, 0, -program->Window(2)->height()));
+        QVERIFY(program->Window(2)->isMinimized());
+        program->Choose("mnuWindowsArrange");
+        QVERIFY(room.contains(shape(2)) && !shape(2).intersects(both));
+        program->Choose("mnuWindowList(2)");
+        QVERIFY(!program->Window(2)->isMinimized());
+        QCOMPARE(program->Frame().Area()->activeSubWindow(), program->Window(2));
+    }
+
+    void a_run_brings_its_minimised_window_back() {
+        program->Choose("mnuFileNew");
+        program->Answers = {Press(QMessageBox::Ok), Press(QMessageBox::Ok)};
+        program->Choose("mnuEXEMatlab");
+        auto* results = program->Frame().findChild<QWidget*>("frmTextResults");
+        results->showMinimized();
+        program->Choose("mnuEXEMatlab");
+        QVERIFY(results->isVisible() && !results->isMinimized());
+    }
+
         program->Choose("mnuFileNew");
         program->Place("mnuTrigSin", {60, 50});
         // Where the corner between the scroll bars ends, which they and the panels follow.
@@ -165,6 +220,9 @@ private slots:
         const auto design = corner();
         QCOMPARE(design, end());
         program->Window()->showMinimized();
+        const auto* square = program->Part("pctblank");
+        QVERIFY(square->width() == square->height() && square->width() > 0);
+        QCOMPARE(program->Frame().findChild<QWidget*>("Picture1")->height(), 0);
         QCOMPARE(corner(), design);
         program->Choose("mnuWindowsArrange");
         QVERIFY(
