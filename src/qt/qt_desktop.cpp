@@ -8,10 +8,13 @@
 #include <QInputDialog>
 #include <QMessageBox>
 #include <QSettings>
+#include <QStandardPaths>
 #include <QThread>
 #include <QTime>
 
+#include "diagram/preferences.h"
 #include "matlab_link/start_matlab.h"
+#include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "qt/config_toolbox_view.h"
 #include "qt/dispatch.h"
@@ -83,6 +86,28 @@ QStringList NameFilters(const std::string& filter) {
     return names;
 }
 
+/// Where a file dialog begins: toolboxes lie in the program directory, all else where the last such
+/// file lay, at first with the user's documents.
+QString& StartFolder(bool ofToolbox) {
+    static QString toolboxes;
+    static auto documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    if (ofToolbox) toolboxes = ToScreen(ProgramDirectory);
+    return ofToolbox ? toolboxes : documents;
+}
+
+/// Beside the user's own places stand the examples, which the program's launcher has put into the
+/// program directory.
+void OfferPlaces(QFileDialog& dialog, const QString& start) {
+    dialog.setDirectory(QDir(start).exists() ? start : QDir::homePath());
+    auto places = dialog.sidebarUrls();
+    for (const auto& place :
+         QStringList{start, ToScreen(JoinPath(ProgramDirectory, "examples"))}) {
+        const auto url = QUrl::fromLocalFile(place);
+        if (QDir(place).exists() && !places.contains(url)) places.append(url);
+    }
+    dialog.setSidebarUrls(places);
+}
+
 std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
                        const std::string& fileName) {
     QFileDialog dialog(Parent());
@@ -104,10 +129,13 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
         // The file of a toolbox is only looked for, not written, also where a save dialog asks.
         dialog.setOption(QFileDialog::DontConfirmOverwrite, filters.value(0).contains("*.tlb"));
     }
+    auto& start = StartFolder(filter.find("*.tlb") != std::string::npos);
+    OfferPlaces(dialog, start);
     if (!fileName.empty()) dialog.selectFile(ToScreen(fileName));
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         throw RuntimeError(Cancelled);
     }
+    start = dialog.directory().absolutePath();
     return ToCore(dialog.selectedFiles().constFirst());
 }
 

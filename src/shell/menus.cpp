@@ -186,8 +186,8 @@ const std::vector<DocumentMenuRow> documentMenu = {
 
 const std::vector<FrameMenuRow> frameMenu = {
     {0, "mnuFile", -1, "&File", ""},
-    {1, "mnuFileNew", -1, "&New ...", "", mnuFileNew_Click},
-    {1, "mnuFileOpen", -1, "&Open...", "", mnuFileOpen_Click},
+    {1, "mnuFileNew", -1, "&New ...", "Ctrl+N", mnuFileNew_Click},
+    {1, "mnuFileOpen", -1, "&Open...", "Ctrl+O", mnuFileOpen_Click},
     {1, "mnuFiless", -1, "-", ""},
     {1, "mnuFileExit", -1, "&Exit", "", mnuFileExit_Click},
     {1, "mnuFileArray", 0, "-", ""},
