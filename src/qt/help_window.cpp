@@ -67,12 +67,9 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
     bar->addWidget(label);
     bar->addWidget(search_);
     connect(search_, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
-    const auto read = [this](QTreeWidgetItem* item) {
-        if (item) text_->scrollToAnchor(item->data(0, Qt::UserRole).toString());
-    };
-    connect(contents_, &QTreeWidget::currentItemChanged, this, read);
+    connect(contents_, &QTreeWidget::currentItemChanged, this, &HelpWindow::Read);
     // Also the page that is chosen already, to come back to its beginning.
-    connect(contents_, &QTreeWidget::itemClicked, this, read);
+    connect(contents_, &QTreeWidget::itemClicked, this, &HelpWindow::Read);
     resize(920, 680);
 }
 
@@ -80,10 +77,23 @@ bool HelpWindow::Open(const std::string& file) {
     QFile manual(ToScreen(file));
     if (!manual.open(QIODevice::ReadOnly)) return false;
     text_->setSearchPaths({QFileInfo(manual).absolutePath()});
-    text_->setHtml(QString::fromUtf8(manual.readAll()));
-    text_->document()->setDocumentMargin(TextMargin);
+    manual_ = QString::fromUtf8(manual.readAll());
+    ShowText(manual_);
     FillContents();
     return true;
+}
+
+void HelpWindow::ShowText(const QString& text) {
+    text_->setHtml(text);
+    text_->document()->setDocumentMargin(TextMargin);
+    showsManual_ = text == manual_;
+}
+
+/// A page that is chosen while the text tells how to use the help brings the manual back.
+void HelpWindow::Read(const QTreeWidgetItem* page) {
+    if (!page) return;
+    if (!showsManual_) ShowText(manual_);
+    text_->scrollToAnchor(page->data(0, Qt::UserRole).toString());
 }
 
 /// The headings of the manual are its contents; each is found again by the anchor in front of it.
@@ -110,11 +120,7 @@ void HelpWindow::FillContents() {
 
 void HelpWindow::ShowContents() { text_->moveCursor(QTextCursor::Start); }
 
-void HelpWindow::ShowHowTo() {
-    contents_->clear();
-    text_->setHtml(HowToText);
-    text_->document()->setDocumentMargin(TextMargin);
-}
+void HelpWindow::ShowHowTo() { ShowText(HowToText); }
 
 void HelpWindow::ShowSearch() {
     search_->setFocus();
@@ -124,6 +130,7 @@ void HelpWindow::ShowSearch() {
 void HelpWindow::FindNext() {
     const auto word = search_->text();
     statusBar()->clearMessage();
+    if (!showsManual_) ShowText(manual_);
     if (word.isEmpty() || text_->find(word)) return;
     const auto place = text_->textCursor();
     text_->moveCursor(QTextCursor::Start);

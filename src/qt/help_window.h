@@ -7,6 +7,7 @@
 class QLineEdit;
 class QTextBrowser;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace quorvane {
 
@@ -23,10 +24,14 @@ public:
 private:
     void FillContents();
     void FindNext();
+    void ShowText(const QString& text);
+    void Read(const QTreeWidgetItem* page);
 
     QTextBrowser* text_;
     QTreeWidget* contents_;
     QLineEdit* search_;
+    QString manual_;
+    bool showsManual_ = false;
 };
 
 /// Hands a command of the program to the viewer, which comes when it is first needed. A file that

@@ -12,7 +12,10 @@ namespace quorvane {
 namespace {
 
 constexpr int Widest = 440;
-constexpr int Margin = 16;
+constexpr int Padding = 12;
+constexpr int Gap = 16;  ///< Between the panel and the edges of the sheet
+constexpr int NarrowGap = 3;
+constexpr int SmallestPoints = 6;
 
 }  // namespace
 
@@ -24,22 +27,42 @@ TourView::TourView(int document, QWidget* parent) : QLabel(parent), document_(do
     setFocusPolicy(Qt::StrongFocus);
     setCursor(Qt::PointingHandCursor);
     setStyleSheet(
-        "background: #fffbe0; color: #202020; border: 1px solid #807840; border-radius: 6px; "
-        "padding: 12px;");
+        "background: #fffbe0; color: #202020; border: 1px solid #807840; border-radius: 6px;");
     hide();
 }
 
-/// The panel lies at the lower edge of the sheet, in its middle.
+/// The panel lies at the lower edge of the sheet, in its middle. On a low sheet it takes the whole
+/// width, and its text becomes as small as it has to.
+void TourView::Fit(const QSize& sheet) {
+    int gap = Gap;
+    int width = qMin(Widest, sheet.width() - 2 * gap);
+    auto font = parentWidget()->font();
+    setMargin(Padding);
+    setFont(font);
+    const auto fits = [&] { return heightForWidth(width) <= sheet.height() - 2 * gap; };
+    if (!fits()) {
+        gap = NarrowGap;
+        setMargin(NarrowGap);
+        width = sheet.width() - 2 * gap;
+    }
+    while (!fits() && font.pointSize() > SmallestPoints) {
+        font.setPointSize(font.pointSize() - 1);
+        setFont(font);
+    }
+    const int height = heightForWidth(width);
+    const int top = qMax(0, sheet.height() - height - gap);
+    setGeometry((sheet.width() - width) / 2, top, width, height);
+}
+
 void TourView::Refresh(const TourPanel& panel) {
     const auto text = ToScreen(panel.Caption).replace("\r\n", "\n");
-    if (this->text() != text) setText(text);
-    if (panel.Visible) {
-        const auto* sheet = parentWidget();
-        const int width = qMin(Widest, sheet->width() - 2 * Margin);
-        const int height = heightForWidth(width);
-        setGeometry((sheet->width() - width) / 2, sheet->height() - height - Margin, width, height);
-        raise();
+    const auto sheet = parentWidget()->size();
+    if (panel.Visible && (this->text() != text || fitted_ != sheet)) {
+        setText(text);
+        Fit(sheet);
+        fitted_ = sheet;
     }
+    if (panel.Visible) raise();
     if (isVisibleTo(parentWidget()) != panel.Visible) {
         if (hasFocus()) parentWidget()->setFocus();
         setVisible(panel.Visible);

@@ -19,8 +19,10 @@ protected:
 
 private:
     void GoOn();
+    void Fit(const QSize& sheet);
 
     int document_;
+    QSize fitted_;  ///< The sheet that the panel was last laid out for
 };
 
 }  // namespace quorvane

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMdiSubWindow>
 #include <QTest>
+#include <QTextBrowser>
+#include <QTreeWidget>
 
 #include "window/window_fixture.h"
 
@@ -161,6 +164,26 @@ private slots:
         QCOMPARE(Tools(), "Cos");
     }
 
+    void the_help_keeps_its_pages_while_it_tells_of_itself() {
+        QFile::copy(QString(QUORVANE_SOURCE_DIR) + "/resources/help/QUORVANE.HLP",
+                    program->File("QUORVANE.HLP"));
+        WriteAll("quorvane.ini", "[Prefrences]\r\n");
+        program->Start();
+        program->Choose("mnuHelpHowTo");
+        auto* help = program->Frame().findChild<QWidget*>("helpWindow");
+        auto* pages = help->findChild<QTreeWidget*>("helpContents");
+        const auto text = [&] { return help->findChild<QTextBrowser*>("helpText")->toPlainText(); };
+        QVERIFY(text().startsWith("How to use the help"));
+        QVERIFY(pages->topLevelItemCount() > 5);
+        pages->setCurrentItem(pages->topLevelItem(2));
+        QVERIFY(text().startsWith("Quorvane"));
+        program->Choose("mnuHelpHowTo");
+        auto* field = help->findChild<QLineEdit*>("helpSearch");
+        QTest::keyClicks(field, "caps lock");
+        QTest::keyClick(field, Qt::Key_Return);
+        QVERIFY(text().startsWith("Quorvane"));
+    }
+
     void the_tour_takes_eleven_clicks() {
         program->Choose("mnuFileNew");
         program->Choose("mnuHelpTour");
@@ -169,6 +192,13 @@ private slots:
             auto* panel = static_cast<QLabel*>(program->Part("pnlTour"));
             QVERIFY(panel && panel->text() != last);
             last = panel->text();
+            // All of the text shows, also on a low worksheet.
+            for (const QSize& size : {QSize(640, 480), QSize(420, 170)}) {
+                program->Window()->resize(size);
+                QVERIFY2(panel->parentWidget()->rect().contains(panel->geometry()),
+                         qPrintable(last));
+                QVERIFY(panel->height() >= panel->heightForWidth(panel->width()));
+            }
             QTest::mouseClick(panel, Qt::LeftButton);
         }
         QVERIFY(!program->Part("pnlTour"));
