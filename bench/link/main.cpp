@@ -84,7 +84,7 @@ int main(int argc, char** argv) {
     Report("start of the engine", Milliseconds(timer), 1000);
     timer.start();
     for (int i = 0; i < Sends; ++i) {
-        screen.LinkExecute("x=1;");
+        screen.LinkExecute("x=1;", {});
         screen.LinkRequest();
     }
     const auto there = Milliseconds(timer) / Sends;
@@ -94,7 +94,7 @@ int main(int argc, char** argv) {
     mnuEXEMatlab_Click(*Documents[1]);
     Report("a diagram of 349 boxes, its answers shown", Milliseconds(timer), 2000);
     timer.start();
-    screen.LinkExecute("for i=1:20000,disp(i),end");
+    screen.LinkExecute("for i=1:20000,disp(i),end", {});
     frmTextResults.txt.Text += screen.LinkRequest();
     frame.Refresh();
     QCoreApplication::processEvents();

@@ -23,7 +23,9 @@ struct ConsoleDesktop : QuietDesktop {
     std::string OpenFileDialog(const std::string& filter, const std::string& fileName) override;
     std::string SaveFileDialog(const std::string& filter, const std::string& fileName) override;
     void ShowModal(std::string_view form) override;
-    void LinkExecute(const std::string& script) override { WriteSent(script); }
+    void LinkExecute(const std::string& script, const LineBoxes& /*boxes*/) override {
+        WriteSent(script);
+    }
 
 private:
     std::string TakeAnswer();

@@ -103,6 +103,14 @@ bool Succeed(Run& run, int slot, const Box& box) {
     return true;
 }
 
+/// Notes who wrote the lines that have come to the script. The last one may still be without an
+/// end.
+void NoteLines(Run& run, int box) {
+    auto lines = std::count(run.scriptText.begin(), run.scriptText.end(), '\n');
+    if (!run.scriptText.ends_with('\n') && !run.scriptText.ends_with(IndentStep)) ++lines;
+    run.boxOfLine.resize(static_cast<std::size_t>(lines), ToInt16(box));
+}
+
 /// Visits one slot. The box in it is read anew where it counts, since a box that opens or closes a
 /// block replaces the whole front. False when the run is to be broken off.
 bool VisitSlot(Run& run, int slot) {
@@ -115,6 +123,7 @@ bool VisitSlot(Run& run, int slot) {
     if (found != 0 && box.BoxText != "Deleted") {
         Indent(run);
         EmitBox(run, found, slot);
+        if (run.Mode == 0) NoteLines(run, found);
     }
     const Box& now = ReadBox(run, Front[slot]);
     return now.BoxMark == "OK" ? Succeed(run, slot, now) : Stall(run, slot);

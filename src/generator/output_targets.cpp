@@ -41,13 +41,13 @@ bool TryToSend(Statement&& statement) {
     }
 }
 
-bool Execute(LinkBox& sender) {
+bool Execute(LinkBox& sender, const LineBoxes& boxes) {
     const auto open = [&] {
         sender.LinkMode = 2;
         desktop->LinkOpen();
     };
     if (!TryToSend(open)) return false;
-    if (!TryToSend([&] { desktop->LinkExecute(sender.Text); })) return false;
+    if (!TryToSend([&] { desktop->LinkExecute(sender.Text, boxes); })) return false;
     sender.LinkMode = 0;
     return true;
 }
@@ -110,7 +110,7 @@ void mnuEXEMatlab_Click(Worksheet& sheet) {
     frmTextResults.Form.Visible = true;
     frmTextResults.Minimized = false;
     CompileDocument(0, sheet.Tag);
-    frmTextResults.txt.Text += desktop->LinkFinish();
+    frmTextResults.txt.Text += desktop->LinkFinish(lastRunEnd == RunEnd::Done);
 }
 
 std::string FoldFirstPlot(std::string_view script) {
@@ -159,7 +159,7 @@ bool SendToMatlab(Run& run, std::string_view boxType) {
     auto& receiver = frmTextResults.Receiver;
     sender.Text = run.scriptText;
     PrepareLink(sender, "EngEvalString");
-    if (!Execute(sender)) {
+    if (!Execute(sender, run.boxOfLine)) {
         GiveUp();
         return false;
     }
@@ -169,6 +169,7 @@ bool SendToMatlab(Run& run, std::string_view boxType) {
     receiver.Text.clear();
     sender.Text.clear();
     run.scriptText.clear();
+    run.boxOfLine.clear();
     return true;
 }
 

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "diagram/box_table.h"
+#include "platform/desktop.h"
 #include "platform/runtime_error.h"
 
 namespace quorvane {
@@ -18,6 +19,7 @@ struct Run {
     int stallBox = 0;           ///< The box under suspicion, 0 for none
     int stallCount = 0;         ///< Failed visits since the last success after stallBox was chosen
     int boxesDone = 0;
+    LineBoxes boxOfLine;     ///< With mode 0 the box that wrote each line that is not sent yet
     int plotPrefixSent = 0;  ///< 1 once the first plot has gone to MATLAB
     /// What a failing statement does; some boxes turn it to Ignore for the rest of the run.
     ErrorPolicy Policy = ErrorPolicy::Fatal;

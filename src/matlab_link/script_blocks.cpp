@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <vector>
 
 namespace quorvane {
 
@@ -119,9 +120,11 @@ void TakeCharacter(Reader& reader) {
 
 }  // namespace
 
-bool BlocksAreClosed(std::string_view script) {
+bool BlocksAreClosed(std::string_view script) { return FindOpenBlock(script) == script.size(); }
+
+std::size_t FindOpenBlock(std::string_view script) {
     Reader reader{script};
-    int open = 0;
+    std::vector<std::size_t> open;
     while (!reader.AtEnd()) {
         const char c = reader.Next();
         if (c == '%' || c == '#') {
@@ -130,17 +133,19 @@ bool BlocksAreClosed(std::string_view script) {
             SkipString(reader);
             reader.AtLineStart = false;
         } else if (IsWordPart(c)) {
+            const auto start = reader.At;
             const auto word = TakeWord(reader);
             const int step = Step(reader, word);
-            open += step;
-            if (open < 0) return true;
+            if (step < 0 && open.empty()) return script.size();
+            if (step > 0) open.push_back(start);
+            if (step < 0) open.pop_back();
             reader.AfterValue = step == 0;
             reader.AfterDot = reader.AtLineStart = false;
         } else {
             TakeCharacter(reader);
         }
     }
-    return open == 0;
+    return open.empty() ? script.size() : open.front();
 }
 
 }  // namespace quorvane

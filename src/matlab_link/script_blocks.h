@@ -11,4 +11,8 @@ namespace quorvane {
 /// engine to complain about.
 bool BlocksAreClosed(std::string_view script);
 
+/// Where the outermost block begins that is never closed, from 0; the script's size when there is
+/// none.
+std::size_t FindOpenBlock(std::string_view script);
+
 }  // namespace quorvane

@@ -21,6 +21,9 @@ struct Message {
     std::string Title = "Quorvane";
 };
 
+/// The number of the box that wrote each line of a script.
+using LineBoxes = std::vector<std::int16_t>;
+
 /// All that the program asks of the desktop it runs on. It is the one door out of the core: behind
 /// it stands the application's window system, the command line, or a test.
 struct Desktop {
@@ -62,13 +65,15 @@ struct Desktop {
     /// The link to a running MATLAB. Opening it or executing raises error 282 when nothing answers.
     virtual void LinkOpen() = 0;
     /// Runs a script to its end. Parts of a block ("for" without its "end") are kept until the
-    /// script that closes it has come, and then run as one.
-    virtual void LinkExecute(const std::string& script) = 0;
+    /// script that closes it has come, and then run as one. `boxes` holds the box that wrote each
+    /// line, for what there is to complain about.
+    virtual void LinkExecute(const std::string& script, const LineBoxes& boxes) = 0;
     /// What was printed by the last execute, "" where it only kept a part.
     virtual std::string LinkRequest() = 0;
-    /// Ends a run: gives MATLAB what is still kept, for a block that was never closed, and returns
-    /// what it says to that; "" when there is nothing.
-    virtual std::string LinkFinish() = 0;
+    /// Ends a run and returns what there is to say about a block that was never closed, "" when
+    /// there is none. A run that has `come` to its end gives MATLAB what is kept of the block; that
+    /// of a run that was broken off is dropped.
+    virtual std::string LinkFinish(bool come) = 0;
     /// Runs the command "Start Matlab".
     virtual void StartMatlab() = 0;
 

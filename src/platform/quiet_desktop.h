@@ -38,9 +38,9 @@ struct QuietDesktop : Desktop {
     void StartProcess(const std::string&) override {}
     void EndProgram() override {}
     void LinkOpen() override {}
-    void LinkExecute(const std::string&) override {}
+    void LinkExecute(const std::string&, const LineBoxes&) override {}
     std::string LinkRequest() override { return ""; }
-    std::string LinkFinish() override { return ""; }
+    std::string LinkFinish(bool) override { return ""; }
     void StartMatlab() override {}
     std::string ReadStore(const std::string&, const std::string&) override { return ""; }
     void WriteStore(const std::string&, const std::string&, const std::string&) override {}

@@ -17,6 +17,7 @@
 #include <unistd.h>
 #endif
 
+#include "diagram/box_table.h"
 #include "generator/output_targets.h"
 #include "matlab_link/script_blocks.h"
 #include "platform/desktop.h"
@@ -36,6 +37,9 @@ constexpr int GoingMilliseconds = 3000;
 constexpr int IdleMilliseconds = 300;
 constexpr int BreakSeconds = 5;
 constexpr qsizetype AnswerLimit = 8 << 20;
+constexpr std::int16_t NoBox = 0;
+/// How the engine begins what it says of a script that it can't read; the line's number follows.
+constexpr const char* ParseError = "parse error near line ";
 
 const char* const functions[] = {"run", "ask", "input", "pause", "keyboard"};
 const char* const octaveFunctions[] = {"system_dependent"};
@@ -45,7 +49,9 @@ struct EngineRow {
     const char* Name;
     QStringList Arguments;
 };
-const QString octaveSetUp = "PS1('');PS2('');more off;warning('off','Octave:shadowed-function');";
+const QString octaveSetUp =
+    "PS1('');PS2('');more off;warning('off','Octave:shadowed-function');"
+    "warning('off','backtrace');";
 const EngineRow engines[] = {
     {"octave",
      {"--no-gui", "--quiet", "--no-init-file", "--no-history", "--interactive", "--eval",
@@ -72,6 +78,15 @@ void Signal(qint64 group, int signal) {
     Q_UNUSED(signal);
 #endif
 }
+
+/// The line of a script, from 0, that holds this character.
+std::size_t LineAt(const std::string& script, std::size_t at) {
+    const auto end = script.begin() + static_cast<std::ptrdiff_t>(at);
+    return static_cast<std::size_t>(std::count(script.begin(), end, '\n'));
+}
+
+/// The beginning of what is told of a box.
+std::string NameOf(std::int16_t box) { return box == NoBox ? "" : BoxName(box) + ": "; }
 
 QByteArray Quoted(const QString& text) {
     return "'" + QString(text).replace("'", "''").toUtf8() + "'";
@@ -158,6 +173,7 @@ void MatlabProcess::WriteFunctions(bool isOctave) {
 void MatlabProcess::Start(const QString& chosen) {
     Stop();
     const auto program = WithFigures(chosen);
+    keptBoxes_.clear();
     folder_ = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/quorvane-XXXXXX");
     token_ = "q" + QByteArray::number(QRandomGenerator::system()->generate64(), 16);
     kept_.clear();
@@ -170,18 +186,23 @@ void MatlabProcess::Start(const QString& chosen) {
     process_.start(program, row->Arguments);
     if (!process_.waitForStarted()) throw RuntimeError(FileNotFound);
     process_.write(AddFolder() + '\n');
-    Run("");
+    Run("", {});
     answer_.clear();
     if (!IsRunning()) throw RuntimeError(FileNotFound);
 }
 
-void MatlabProcess::Execute(const std::string& script) {
+void MatlabProcess::Execute(const std::string& script, const LineBoxes& boxes) {
+    keptBoxes_.insert(keptBoxes_.end(), boxes.begin(), boxes.end());
+    // A first plot has become one line.
+    const auto lines = LineAt(kept_, kept_.size()) + (kept_.ends_with('\n') ? 0 : 1);
+    keptBoxes_.resize(lines, boxes.empty() ? NoBox : boxes.back());
     if (!IsRunning()) throw RuntimeError(NoApplicationAnswered);
     answer_.clear();
     kept_ += script;
     if (!BlocksAreClosed(kept_)) return;
     const auto whole = std::exchange(kept_, "");
-    if (whole.find_first_not_of(" \r\n") != std::string::npos) Run(whole);
+    const auto wholeBoxes = std::exchange(keptBoxes_, {});
+    if (whole.find_first_not_of(" \r\n") != std::string::npos) Run(whole, wholeBoxes);
     if (shown_.elapsed() < ShowMilliseconds) return;
     RefreshScreen();
     shown_.start();
@@ -191,18 +212,23 @@ std::string MatlabProcess::TakeAnswer() {
     return std::exchange(answer_, QByteArray()).toStdString();
 }
 
-std::string MatlabProcess::Finish() {
+/// Where the block is open in truth, the engine runs nothing of it and complains of its end.
+std::string MatlabProcess::Finish(bool come) {
     const auto rest = std::exchange(kept_, "");
-    if (rest.empty() || !IsRunning()) return "";
-    Run(rest);
-    return TakeAnswer();
+    const auto boxes = std::exchange(keptBoxes_, {});
+    if (rest.empty() || !come || !IsRunning()) return "";
+    const auto told = NameOf(boxes[LineAt(rest, FindOpenBlock(rest))]);
+    Run(rest, boxes);
+    const auto answer = TakeAnswer();
+    const bool refused = answer.find(ParseError) != std::string::npos;
+    return told + "The block that begins here is never closed.\n" + (refused ? "" : answer);
 }
 
 /// The functions of ours are found again also where a script took their folder from the path.
 QByteArray MatlabProcess::AddFolder() const { return "addpath(" + Quoted(folder_->path()) + ");"; }
 
 /// The file has another name each time, since an engine may not look again at one that it knows.
-void MatlabProcess::Run(const std::string& script) {
+void MatlabProcess::Run(const std::string& script, const LineBoxes& boxes) {
     const auto id = QByteArray::number(++job_);
     QFile file(PathOf("step" + id));
     const auto size = static_cast<qint64>(script.size());
@@ -217,6 +243,23 @@ void MatlabProcess::Run(const std::string& script) {
     received_.clear();
     looked_ = leftOut_ = 0;
     const auto call = token_ + "run(" + Quoted(file.fileName()) + ",'" + id + "');";
+    NameBox(file.fileName(), boxes);
+}
+
+/// A script that can't be read is told of by a line of its file, which the user has never seen: in
+/// its place stand the box and the line of that box.
+void MatlabProcess::NameBox(const QString& file, const LineBoxes& boxes) {
+    const auto place = " of file " + file.toUtf8();
+    const auto end = answer_.indexOf(place);
+    const auto start = answer_.lastIndexOf(ParseError, end);
+    if (end < 0 || start < 0 || boxes.empty()) return;
+    const auto told = answer_.mid(start, end - start).split(' ').last().toULongLong();
+    // The end of the script is told as the line behind its last one.
+    const auto line = std::clamp<std::size_t>(told, 1, boxes.size()) - 1;
+    auto first = line;
+    while (first > 0 && boxes[first - 1] == boxes[line]) --first;
+    const auto text = NameOf(boxes[line]) + ParseError + std::to_string(line - first + 1);
+    answer_.replace(start, end + place.size() - start, QByteArray::fromStdString(text));
     process_.write("try," + call + "catch," + AddFolder() + call + "end\n");
     Wait();
     file.remove();

@@ -9,6 +9,8 @@
 #include <memory>
 #include <string>
 
+#include "platform/desktop.h"
+
 class QEventLoop;
 
 namespace quorvane {
@@ -30,12 +32,12 @@ public:
     bool IsRunning() const;
     /// Runs a script, or keeps it while a block that began in it or before it is open. Error 282
     /// when no engine is running.
-    void Execute(const std::string& script);
+    void Execute(const std::string& script, const LineBoxes& boxes);
     bool HasAnswer() const { return !answer_.isEmpty(); }
     /// What the last script printed, then "".
     std::string TakeAnswer();
-    /// Runs what is still kept, and returns what the engine says to it.
-    std::string Finish();
+    /// Tells of the block that is still kept, which runs when the run has `come` to its end.
+    std::string Finish(bool come);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -45,7 +47,8 @@ private:
     void WriteFunctions(bool isOctave);
     QString PathOf(const QString& name) const;
     QByteArray AddFolder() const;
-    void Run(const std::string& script);
+    void Run(const std::string& script, const LineBoxes& boxes);
+    void NameBox(const QString& file, const LineBoxes& boxes);
     void Wait();
     void Read();
     bool TakeMark();
@@ -61,6 +64,7 @@ private:
     std::unique_ptr<QTemporaryDir> folder_;
     QByteArray token_;  ///< Part of all names and marks of ours, drawn anew for each engine
     std::string kept_;  ///< The parts of a block that isn't closed yet
+    LineBoxes keptBoxes_;
     QByteArray answer_;
 
     int job_ = 0;

@@ -250,9 +250,12 @@ void QtDesktop::LinkOpen() {
     if (!matlab_.IsRunning() && !matlab_.HasAnswer()) throw RuntimeError(NoApplicationAnswered);
 }
 
-void QtDesktop::LinkExecute(const std::string& script) { matlab_.Execute(script); }
+void QtDesktop::LinkExecute(const std::string& script, const LineBoxes& boxes) {
+    matlab_.Execute(script, boxes);
+}
+
 std::string QtDesktop::LinkRequest() { return matlab_.TakeAnswer(); }
-std::string QtDesktop::LinkFinish() { return matlab_.Finish(); }
+std::string QtDesktop::LinkFinish(bool come) { return matlab_.Finish(come); }
 void QtDesktop::StartMatlab() { mnuFileStartMatlab_Click(); }
 
 std::string QtDesktop::ReadStore(const std::string& section, const std::string& key) {

@@ -24,9 +24,9 @@ struct QtDesktop : Desktop {
     void StartProcess(const std::string& path) override;
     void EndProgram() override;
     void LinkOpen() override;
-    void LinkExecute(const std::string& script) override;
+    void LinkExecute(const std::string& script, const LineBoxes& boxes) override;
     std::string LinkRequest() override;
-    std::string LinkFinish() override;
+    std::string LinkFinish(bool come) override;
     void StartMatlab() override;
     std::string ReadStore(const std::string& section, const std::string& key) override;
     void WriteStore(const std::string& section, const std::string& key,

@@ -136,6 +136,20 @@ TEST_F(OutputTargetsTest, TheLogGoesOnUntilItsWindowIsClosed) {
     EXPECT_FALSE(frmTextResults.Form.Visible);
     mnuEXEMatlab_Click(Sheet());
     EXPECT_EQ(frmTextResults.txt.Text, "box1=3;\r\nans|unclosed|");
+    frmTextResults_cmdOK_Click();
+    screen.LinkFailures = {282};
+    mnuEXEMatlab_Click(Sheet());
+    EXPECT_EQ(frmTextResults.txt.Text, "dropped|") << "a run that was broken off";
+}
+
+TEST_F(OutputTargetsTest, MatlabIsToldWhichBoxWroteWhichLine) {
+    Draw({{"Constant Input", "3", {}, {2}},
+          {"If", "a>1", {1}, {3}},
+          {"Screen Output", "", {2}, {}}});
+    mnuEXEMatlab_Click(Sheet());
+    EXPECT_EQ(frmTextResults.txt.Text,
+              "box1=3;\r\nbox2=box1;\r\nif (a>1),\r\n   box3=box2\r\n");
+    EXPECT_EQ(screen.SentBoxes, (std::vector<LineBoxes>{{1}, {2, 2, 3}}));
 }
 
 }  // namespace quorvane::testing

@@ -11,6 +11,7 @@ TEST(ScriptBlocks, AreOpenOrClosed) {
     for (const auto& row : ReadTable("matlab_link/script_blocks.tsv")) {
         EXPECT_EQ(BlocksAreClosed(row[1]), row[0] == "yes") << row[1];
     }
+    EXPECT_EQ(FindOpenBlock("x=1;\nfor i=1:2\nif x,end\nwhile x\n"), 5U);
 }
 
 }  // namespace quorvane::testing

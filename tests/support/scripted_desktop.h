@@ -34,8 +34,9 @@ struct ScriptedDesktop : QuietDesktop {
     std::vector<std::string> Processes;     ///< Started programs
     bool ProcessesFail = false;
     std::vector<std::string> Sent;  ///< What went to MATLAB
-    std::string Reply;              ///< What each request gets
-    std::deque<int> LinkFailures;   ///< Error numbers of the next openings of the link; 0 for none
+    std::vector<LineBoxes> SentBoxes;
+    std::string Reply;             ///< What each request gets
+    std::deque<int> LinkFailures;  ///< Error numbers of the next openings of the link; 0 for none
     int MatlabStarts = 0;
     std::string Kept;  ///< What MATLAB says at the end of a run
     std::map<std::string, std::map<std::string, std::string>> Store;
@@ -84,9 +85,12 @@ struct ScriptedDesktop : QuietDesktop {
         const int failure = LinkFailures.empty() ? 0 : Take(LinkFailures);
         if (failure != 0) throw RuntimeError(failure);
     }
-    void LinkExecute(const std::string& script) override { Sent.push_back(script); }
+    void LinkExecute(const std::string& script, const LineBoxes& boxes) override {
+        Sent.push_back(script);
+        SentBoxes.push_back(boxes);
+    }
     std::string LinkRequest() override { return Reply; }
-    std::string LinkFinish() override { return Kept; }
+    std::string LinkFinish(bool come) override { return come ? Kept : "dropped|"; }
     void StartMatlab() override { ++MatlabStarts; }
     std::string ReadStore(const std::string& section, const std::string& key) override {
         return Store[section][key];
