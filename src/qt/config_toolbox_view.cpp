@@ -110,14 +110,16 @@ void ConfigToolboxView::MakeCatalogue() {
         tile->setGeometry(ToPixels(frmConfigToolbox.cmdPict[i].Place));
         tile->Carried = QByteArray::number(i);
         tile->Entered = [i, tile] {
-            Dispatch([i] { frmConfigToolbox_cmdPict_MouseMove(i); });
+            Dispatch([i] { frmConfigToolbox_cmdPict_MouseMove(i); }, tile);
             tile->setAccessibleName(ToScreen(frmConfigToolbox.lblFunction.Caption));
         };
-        tile->Chosen = [i] {
-            Dispatch([i] {
-                frmConfigToolbox_cmdPict_MouseMove(i);
-                frmConfigToolbox_pnlToolbox_DragDrop(i);
-            });
+        tile->Chosen = [i, tile] {
+            Dispatch(
+                [i] {
+                    frmConfigToolbox_cmdPict_MouseMove(i);
+                    frmConfigToolbox_pnlToolbox_DragDrop(i);
+                },
+                tile);
         };
         catalogue_.push_back(tile);
     }
@@ -147,8 +149,9 @@ void ConfigToolboxView::RefreshPanel() {
         }
         if (!tile) {
             tile = new IconTile(QString("cmdButton(%1)").arg(i), panel_);
-            tile->Pressed = [i](Qt::MouseButton button) {
-                Dispatch([&] { frmConfigToolbox_cmdButton_MouseDown(i, ButtonNumber(button)); });
+            tile->Pressed = [i, tile = tile](Qt::MouseButton button) {
+                Dispatch([&] { frmConfigToolbox_cmdButton_MouseDown(i, ButtonNumber(button)); },
+                         tile);
             };
             auto* before = icons_[static_cast<std::size_t>(i) - 1];
             setTabOrder(before ? before : findChild<QWidget*>("chkReload"), tile);
@@ -206,7 +209,7 @@ bool ConfigToolboxView::eventFilter(QObject* watched, QEvent* event) {
         auto* drop = static_cast<QDropEvent*>(event);
         const int index = drop->mimeData()->data(DragType(TileDrag)).toInt();
         drop->acceptProposedAction();
-        Dispatch([index] { frmConfigToolbox_pnlToolbox_DragDrop(index); });
+        Dispatch([index] { frmConfigToolbox_pnlToolbox_DragDrop(index); }, this);
         return true;
     }
     return false;

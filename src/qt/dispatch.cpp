@@ -41,15 +41,46 @@ RuntimeError ErrorOf(const std::exception_ptr& thrown) {
     std::_Exit(3);
 }
 
+bool handlerRuns = false;
+
+bool MayStart(const QWidget* source) {
+    const auto* dialog = QApplication::activeModalWidget();
+    return !handlerRuns && (!dialog || (source && source->window() == dialog));
+}
+
+/// Sets whether a handler runs, for as long as this lives.
+struct RunningScope {
+    explicit RunningScope(bool runs) { handlerRuns = runs; }
+    ~RunningScope() { handlerRuns = Before; }
+    const bool Before = handlerRuns;
+};
+
 }  // namespace
 
-void Dispatch(const std::function<void()>& handler) {
+void Dispatch(const std::function<void()>& handler, const QWidget* source) {
+    if (!MayStart(source)) {
+        // The control that was operated goes back to what its record holds.
+        QMetaObject::invokeMethod(
+            qApp, [] { RefreshScreen(); }, Qt::QueuedConnection);
+        return;
+    }
+    DispatchLayout([&] {
+        const RunningScope running(true);
+        handler();
+    });
+}
+
+void DispatchLayout(const std::function<void()>& handler) {
     try {
         handler();
         RefreshScreen();
     } catch (...) {
+        const RunningScope running(true);
         EndAfter(ErrorOf(std::current_exception()));
     }
 }
+
+DialogScope::DialogScope() : before_(handlerRuns) { handlerRuns = false; }
+DialogScope::~DialogScope() { handlerRuns = before_; }
 
 }  // namespace quorvane

@@ -238,10 +238,12 @@ FormView::~FormView() { openForms.removeOne(this); }
 
 void FormView::Connect(const ControlRow& row, QWidget* control) {
     const auto run = [this, &row] {
-        Dispatch([&] {
-            TakeAll(*this, form_);
-            if (row.Event) row.Event();
-        });
+        Dispatch(
+            [&] {
+                TakeAll(*this, form_);
+                if (row.Event) row.Event();
+            },
+            this);
     };
     if (auto* line = qobject_cast<QLineEdit*>(control)) {
         connect(line, &QLineEdit::textEdited, this, run);
@@ -276,7 +278,7 @@ void FormView::ConnectList(QListView* view, const std::function<void()>& run) {
 /// The line of the About dialog moves on while the dialog shows.
 void FormView::RunAboutTimer() {
     auto* timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [] { Dispatch(frmAbout_Timer1_Timer); });
+    connect(timer, &QTimer::timeout, this, [this] { Dispatch(frmAbout_Timer1_Timer, this); });
     timer->start(frmAbout.Timer1);
 }
 
@@ -301,7 +303,7 @@ void FormView::Refresh() {
 /// elsewhere: no box dialog can be left without an answer.
 void FormView::reject() {
     if (auto* cancel = findChild<QPushButton*>("cmdCancel")) cancel->click();
-    if (form_.Closed) Dispatch(form_.Closed);
+    if (form_.Closed) Dispatch(form_.Closed, this);
 }
 
 /// Enter is a choice, so that it does nothing where nothing is chosen; in a list of folders it goes
@@ -335,7 +337,7 @@ void FormView::Activate() {
         QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
         QThread::msleep(2);
     }
-    Dispatch(form_.Activated);
+    Dispatch(form_.Activated, this);
 }
 
 void RefreshForms() {

@@ -103,9 +103,6 @@ bool IsUserInput(QEvent::Type type) {
                                          QEvent::MouseMove,
                                          QEvent::Wheel,
                                          QEvent::ContextMenu,
-                                         QEvent::Close,
-                                         QEvent::DragEnter,
-                                         QEvent::Drop,
                                          QEvent::TouchBegin,
                                          QEvent::TabletPress,
                                          QEvent::InputMethod};
@@ -173,10 +170,10 @@ void MatlabProcess::WriteFunctions(bool isOctave) {
 void MatlabProcess::Start(const QString& chosen) {
     Stop();
     const auto program = WithFigures(chosen);
-    keptBoxes_.clear();
     folder_ = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/quorvane-XXXXXX");
     token_ = "q" + QByteArray::number(QRandomGenerator::system()->generate64(), 16);
     kept_.clear();
+    keptBoxes_.clear();
     idle_.stop();
     const auto name = QFileInfo(program).fileName();
     const auto* row = std::begin(engines);
@@ -192,13 +189,13 @@ void MatlabProcess::Start(const QString& chosen) {
 }
 
 void MatlabProcess::Execute(const std::string& script, const LineBoxes& boxes) {
+    if (!IsRunning()) throw RuntimeError(NoApplicationAnswered);
+    answer_.clear();
+    kept_ += script;
     keptBoxes_.insert(keptBoxes_.end(), boxes.begin(), boxes.end());
     // A first plot has become one line.
     const auto lines = LineAt(kept_, kept_.size()) + (kept_.ends_with('\n') ? 0 : 1);
     keptBoxes_.resize(lines, boxes.empty() ? NoBox : boxes.back());
-    if (!IsRunning()) throw RuntimeError(NoApplicationAnswered);
-    answer_.clear();
-    kept_ += script;
     if (!BlocksAreClosed(kept_)) return;
     const auto whole = std::exchange(kept_, "");
     const auto wholeBoxes = std::exchange(keptBoxes_, {});
@@ -243,6 +240,9 @@ void MatlabProcess::Run(const std::string& script, const LineBoxes& boxes) {
     received_.clear();
     looked_ = leftOut_ = 0;
     const auto call = token_ + "run(" + Quoted(file.fileName()) + ",'" + id + "');";
+    process_.write("try," + call + "catch," + AddFolder() + call + "end\n");
+    Wait();
+    file.remove();
     NameBox(file.fileName(), boxes);
 }
 
@@ -260,9 +260,6 @@ void MatlabProcess::NameBox(const QString& file, const LineBoxes& boxes) {
     while (first > 0 && boxes[first - 1] == boxes[line]) --first;
     const auto text = NameOf(boxes[line]) + ParseError + std::to_string(line - first + 1);
     answer_.replace(start, end + place.size() - start, QByteArray::fromStdString(text));
-    process_.write("try," + call + "catch," + AddFolder() + call + "end\n");
-    Wait();
-    file.remove();
 }
 
 void MatlabProcess::Wait() {
@@ -355,7 +352,9 @@ void MatlabProcess::Limit() {
     leftOut_ += excess;
 }
 
+/// Nothing when the job has ended already, as when the engine dies while its end is waited for.
 void MatlabProcess::EndJob() {
+    if (!waiting_) return;
     answer_ = received_;
     if (leftOut_ > 0) answer_ += "\n... " + QByteArray::number(leftOut_) + " bytes more\n";
     if (stopping_.isValid()) answer_ += "Stopped.\n";

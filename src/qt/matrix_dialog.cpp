@@ -72,7 +72,7 @@ MatrixDialog::MatrixDialog(QWidget* parent) : QDialog(parent) {
     rows->addWidget(ok, 0, Qt::AlignRight);
     resize(420, 300);
     connect(ok, &QPushButton::clicked, this, [this] {
-        Dispatch(frmMatrix_cmdOK_Click);
+        Dispatch(frmMatrix_cmdOK_Click, this);
         accept();
     });
     connect(grid_, &QTableWidget::currentCellChanged, this, [this](int row, int column) {
@@ -119,11 +119,13 @@ bool MatrixDialog::eventFilter(QObject* watched, QEvent* event) {
 bool MatrixDialog::TakeKey(int key, const QString& text) {
     const int code = CodeOf(key);
     if (code == Other && (text.isEmpty() || !text.at(0).isPrint())) return false;
-    Dispatch([&] {
-        const int column = frmMatrix.grid.Col;
-        frmMatrix_grid_KeyDown(code, code == Other ? ToCore(text) : std::string());
-        MoveInGrid(code, column);
-    });
+    Dispatch(
+        [&] {
+            const int column = frmMatrix.grid.Col;
+            frmMatrix_grid_KeyDown(code, code == Other ? ToCore(text) : std::string());
+            MoveInGrid(code, column);
+        },
+        this);
     Refresh();
     return true;
 }

@@ -31,7 +31,7 @@ PageViewDialog::PageViewDialog(QWidget* parent) : QDialog(parent) {
     ok->setDefault(true);
     ok->setGeometry(ToPixels(frmPageView.cmdOK));
     connect(ok, &QPushButton::clicked, this, [this] {
-        Dispatch([] { frmPageView_cmdOK_Click(); });
+        Dispatch(frmPageView_cmdOK_Click, this);
         accept();
     });
 }
@@ -56,7 +56,7 @@ void PageViewDialog::paintEvent(QPaintEvent*) {
 }
 
 void PageViewDialog::reject() {
-    Dispatch([] { frmPageView_cmdOK_Click(); });
+    Dispatch(frmPageView_cmdOK_Click, this);
     QDialog::reject();
 }
 

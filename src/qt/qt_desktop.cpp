@@ -195,6 +195,7 @@ std::int32_t QtDesktop::ColorDialog(std::int32_t start) {
 
 void QtDesktop::ShowModal(std::string_view form) {
     RefreshScreen();
+    const DialogScope lets;
     if (form == "frmPageView") {
         PageViewDialog(Parent()).exec();
         return;

@@ -96,7 +96,7 @@ void ToolboxView::closeEvent(QCloseEvent* event) {
 
 void ToolboxView::resizeEvent(QResizeEvent*) {
     if (following_ || !isVisible()) return;
-    Dispatch([this] {
+    DispatchLayout([this] {
         frmPictures_Resize(ToUnits(width()) + FrameWidth, ToUnits(height()) + FrameHeight);
     });
 }

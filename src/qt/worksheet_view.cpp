@@ -109,7 +109,7 @@ void WorksheetView::MakeBars() {
 }
 
 void WorksheetView::resizeEvent(QResizeEvent*) {
-    Dispatch([this] {
+    DispatchLayout([this] {
         Sheet().ScaleWidth = ToUnits(width());
         Sheet().ScaleHeight = ToUnits(height());
         main_Resize(Sheet());

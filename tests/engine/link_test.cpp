@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QKeyEvent>
+#include <QThread>
 #include <QTimer>
 #include <QWidget>
 #include <deque>
@@ -10,6 +11,7 @@
 #include "engine/examples.h"
 #include "generator/output_targets.h"
 #include "platform/runtime_error.h"
+#include "qt/dispatch.h"
 #include "qt/qt_desktop.h"
 #include "support/diagram_fixture.h"
 
@@ -152,8 +154,6 @@ TEST_F(LinkTest, BlocksRunWhenTheyAreClosed) {
     EXPECT_EQ(Send("y=1"), "y = 1\n");
 }
 
-/// A run of a constant and a chain of formulas behind it: what the user replies to each offer to
-/// start an engine, and what stands in the log behind the constant's line.
 /// What can't be read is told by the box that wrote it, and by the line of that box.
 TEST_F(LinkTest, ComplaintsNameTheBox) {
     StartOctave();
@@ -185,6 +185,8 @@ TEST_F(LinkTest, NothingStartsWhileAScriptRuns) {
     EXPECT_EQ(started, 1);
 }
 
+/// A run of a constant and a chain of formulas behind it: what the user replies to each offer to
+/// start an engine, and what stands in the log behind the constant's line.
 struct RunRow {
     const char* What;
     std::deque<std::string> Replies;
@@ -279,6 +281,14 @@ TEST_F(LinkTest, ASilentEngineIsEndedByForce) {
     clock.start();
     EXPECT_EQ(Stopped("x", 100), "Stopped.\nMatlab has been ended by signal 9.\n");
     EXPECT_LT(clock.elapsed(), 20000);
+    EXPECT_EQ(Raised("x"), 282);
+}
+
+/// Both the waiting for an engine that goes and its end are due at once.
+TEST_F(LinkTest, AnEngineThatGoesWhileNobodyLooks) {
+    StartScripted("going");
+    QTimer::singleShot(2500, &window, [] { QThread::msleep(1500); });
+    EXPECT_EQ(Send("x").substr(0, 3), "bye");
     EXPECT_EQ(Raised("x"), 282);
 }
 

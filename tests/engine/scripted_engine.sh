@@ -14,6 +14,8 @@ case $scenario in
         printf '%se:' "$(echo "$token" | cut -c6-)"; sleep 0.05; printf '%s\001\n' "$(part)"
         next; printf 'left over'; begin; printf '\001%se:0\001seen' "$token"; end
         next ;;
+    going)
+        next; begin; printf 'bye\n\001%su:%s\001' "$token" "$(part)"; sleep 2.8 ;;
     deaf)
         trap '' INT
         next; begin

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QAbstractSlider>
 #include <QAction>
 #include <QApplication>
 #include <QMdiArea>
@@ -154,7 +155,6 @@ private slots:
         QCOMPARE(program->Asked.count(closeQuestion), 3);
     }
 
-    void worksheets_are_minimised_and_maximised() {
     void nothing_starts_behind_a_dialog() {
         WriteAll("quorvane.ini", "[Prefrences]\r\n");
         for (const char* command : {"mnuExeDDE", "mnuOptionsPrefs"}) {
@@ -210,6 +210,7 @@ private slots:
         QVERIFY(results->isVisible() && !results->isMinimized());
     }
 
+    void worksheets_are_minimised_and_maximised() {
         program->Choose("mnuFileNew");
         program->Place("mnuTrigSin", {60, 50});
         // Where the corner between the scroll bars ends, which they and the panels follow.
@@ -219,10 +220,10 @@ private slots:
         const auto end = [&] { return program->Window()->widget()->rect().bottomRight(); };
         const auto design = corner();
         QCOMPARE(design, end());
-        program->Window()->showMinimized();
         const auto* square = program->Part("pctblank");
         QVERIFY(square->width() == square->height() && square->width() > 0);
         QCOMPARE(program->Frame().findChild<QWidget*>("Picture1")->height(), 0);
+        program->Window()->showMinimized();
         QCOMPARE(corner(), design);
         program->Choose("mnuWindowsArrange");
         QVERIFY(
