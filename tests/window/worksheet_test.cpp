@@ -191,6 +191,11 @@ private slots:
                  0.0);
         // The record holds the drop point, so that a scroll there and back puts the corner on it.
         auto* bar = static_cast<QScrollBar*>(program->Part("scrV"));
+        QMimeData theirs;
+        theirs.setData("application/x-quorvane-box", "1");
+        QDropEvent drop({300, 300}, Qt::MoveAction, &theirs, Qt::LeftButton, {});
+        QCoreApplication::sendEvent(program->Surface(), &drop);
+        QVERIFY2(box->pos() == QPoint(184, 134), "another program's box is none of this one's");
         bar->setValue(300);
         QCOMPARE(box->pos(), QPoint(184, 130));
         bar->setValue(0);
@@ -199,11 +204,6 @@ private slots:
 
     void the_bubble_names_the_box_under_the_mouse() {
         program->Place("mnuTrigSin", {60, 50});
-        QMimeData theirs;
-        theirs.setData("application/x-quorvane-box", "1");
-        QDropEvent drop({300, 300}, Qt::MoveAction, &theirs, Qt::LeftButton, {});
-        QCoreApplication::sendEvent(program->Surface(), &drop);
-        QVERIFY2(box->pos() == QPoint(184, 134), "another program's box is none of this one's");
         const auto text = [&] {
             const auto* bubble = static_cast<QLabel*>(program->Part("txtboxname"));
             return bubble ? bubble->text() : QString();
