@@ -3,10 +3,11 @@
 
 #include <QApplication>
 #include <QDrag>
-#include <QHash>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <array>
+#include <map>
 
 #include "diagram/box_table.h"
 #include "diagram/worksheet_events.h"
@@ -36,8 +37,8 @@ QPixmap DrawFace(int cell, int side, bool focused, qreal ratio) {
 /// A box as it looks on the screen. Faces are drawn once for each cell, state and resolution: a
 /// full worksheet paints hundreds of them at a time.
 QPixmap Face(int cell, int side, bool focused, qreal ratio) {
-    static QHash<QList<int>, QPixmap> drawn;
-    auto& face = drawn[{cell, side, focused, qRound(ratio * 100)}];
+    static std::map<std::array<int, 4>, QPixmap> drawn;
+    auto& face = drawn[{cell, side, focused ? 1 : 0, qRound(ratio * 100)}];
     if (face.isNull()) face = DrawFace(cell, side, focused, ratio);
     return face;
 }

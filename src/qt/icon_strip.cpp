@@ -2,9 +2,9 @@
 #include "qt/icon_strip.h"
 
 #include <QFile>
-#include <QHash>
 #include <QPainter>
 #include <QSvgRenderer>
+#include <map>
 
 namespace quorvane {
 
@@ -24,7 +24,7 @@ QPixmap Draw(int cell, int devicePixels) {
 }  // namespace
 
 QPixmap CellPixmap(int cell, int pixels, qreal devicePixelRatio) {
-    static QHash<std::pair<int, int>, QPixmap> drawn;
+    static std::map<std::pair<int, int>, QPixmap> drawn;
     const int devicePixels = qRound(pixels * devicePixelRatio);
     auto& pixmap = drawn[{cell, devicePixels}];
     if (pixmap.isNull()) pixmap = Draw(cell, devicePixels);
