@@ -61,7 +61,7 @@ void Dispatch(const std::function<void()>& handler, const QWidget* source) {
     if (!MayStart(source)) {
         // The control that was operated goes back to what its record holds.
         QMetaObject::invokeMethod(
-            qApp, [] { RefreshScreen(); }, Qt::QueuedConnection);
+            qApp, [] { DispatchLayout([] {}); }, Qt::QueuedConnection);
         return;
     }
     DispatchLayout([&] {

@@ -100,8 +100,7 @@ QString& StartFolder(bool ofToolbox) {
 void OfferPlaces(QFileDialog& dialog, const QString& start) {
     dialog.setDirectory(QDir(start).exists() ? start : QDir::homePath());
     auto places = dialog.sidebarUrls();
-    for (const auto& place :
-         QStringList{start, ToScreen(JoinPath(ProgramDirectory, "examples"))}) {
+    for (const auto& place : QStringList{start, ToScreen(JoinPath(ProgramDirectory, "examples"))}) {
         const auto url = QUrl::fromLocalFile(place);
         if (QDir(place).exists() && !places.contains(url)) places.append(url);
     }
@@ -135,8 +134,9 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) {
         throw RuntimeError(Cancelled);
     }
-    start = dialog.directory().absolutePath();
-    return ToCore(dialog.selectedFiles().constFirst());
+    const auto file = dialog.selectedFiles().constFirst();
+    start = QFileInfo(file).absolutePath();
+    return ToCore(file);
 }
 
 QString StoreKey(const std::string& section, const std::string& key) {

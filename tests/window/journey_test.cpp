@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -162,6 +163,26 @@ private slots:
             "Show Toolbox=1\r\nDefault Toolbox=mine.tlb\r\nToolbox Size=\r\nScan Drives=c\r\n");
         program->Start();
         QCOMPARE(Tools(), "Cos");
+    }
+
+    void file_dialogs_begin_where_the_last_file_lay() {
+        WriteAll("quorvane.ini", "[Prefrences]\r\n");
+        for (const char* folder : {"examples", "mine"}) std::filesystem::create_directory(folder);
+        WriteAll("mine/a.qvm", "0\r\n");
+        program->Start();
+        const auto beginsIn = [&](const QString& folder) {
+            return [=, this](QDialog& dialog) {
+                const auto& files = static_cast<QFileDialog&>(dialog);
+                QCOMPARE(files.directory(), QDir(program->File(folder)));
+                const auto examples = QUrl::fromLocalFile(program->File("examples"));
+                QVERIFY(files.sidebarUrls().contains(examples));
+                Cancel()(dialog);
+            };
+        };
+        program->Answers = {PickFile(program->File("mine/a.qvm")), beginsIn("mine"), beginsIn("")};
+        program->Choose("mnuFileOpen");
+        program->Choose("mnuFileLoad");
+        program->Choose("mnuOptionsCurrentToolbox");
     }
 
     void the_help_keeps_its_pages_while_it_tells_of_itself() {
