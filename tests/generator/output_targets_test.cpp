@@ -147,8 +147,7 @@ TEST_F(OutputTargetsTest, MatlabIsToldWhichBoxWroteWhichLine) {
           {"If", "a>1", {1}, {3}},
           {"Screen Output", "", {2}, {}}});
     mnuEXEMatlab_Click(Sheet());
-    EXPECT_EQ(frmTextResults.txt.Text,
-              "box1=3;\r\nbox2=box1;\r\nif (a>1),\r\n   box3=box2\r\n");
+    EXPECT_EQ(frmTextResults.txt.Text, "box1=3;\r\nbox2=box1;\r\nif (a>1),\r\n   box3=box2\r\n");
     EXPECT_EQ(screen.SentBoxes, (std::vector<LineBoxes>{{1}, {2, 2, 3}}));
 }
 
