@@ -14,7 +14,7 @@
 #include <fstream>
 #include <functional>
 
-#include "catalogue/command_browser_door.h"
+#include "commands/command_browser_door.h"
 #include "qt/dispatch.h"
 #include "qt/form_view.h"
 #include "qt/frame_view.h"

@@ -6,6 +6,7 @@
 #include <string>
 #include <vector>
 
+#include "catalogue/box_commands.h"
 #include "catalogue/icon_table.h"
 #include "compile/picture.h"
 
@@ -29,9 +30,16 @@ std::string Escaped(std::string_view key) {
 
 std::vector<std::string> Captions(int cell) {
     std::vector<std::string> captions;
-    for (const auto& row : iconTable) {
-        if (row.Cell == cell) captions.push_back(Escaped(row.Key));
+    const auto add = [&](std::string_view key) {
+        const auto text = Escaped(key);
+        const bool isNew = std::find(captions.begin(), captions.end(), text) == captions.end();
+        if (!key.empty() && isNew && IconCell(key) == cell) captions.push_back(text);
+    };
+    for (const auto& command : boxCommands) {
+        for (const auto key : command.ToolboxKeys) add(key);
+        add(command.BoxType);
     }
+    for (const auto& row : iconTable) add(row.Key);
     if (cell == FallbackCell) captions.emplace_back("every key without a row");
     if (captions.empty()) captions.emplace_back("no key, no picture");
     return captions;

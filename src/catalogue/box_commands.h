@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
+#include <array>
+#include <span>
 #include <string_view>
-#include <vector>
-
-#include "diagram/worksheet.h"
 
 namespace quorvane {
 
@@ -19,42 +17,42 @@ enum class IconSource {
 
 /// All entries stay open at first: the dialog locks what the box lacks.
 constexpr int ByDialog = 3;
+/// The number of entries of a row that makes no box: a submenu or a separator.
+constexpr int NoBox = -1;
 
-/// A command that makes a box. It asks for the type, where it asks first; arms the box with AddBox;
-/// writes the type and text, and locks; runs its dialog, which completes the record; and gives the
-/// box its picture.
+/// An entry of the menu "Functions". Most of them make a box, and their row is all that there is to
+/// know of it: where it stands in the menu, what the new record holds, its picture, its dialog, the
+/// keys by which the toolbox calls it, its page in the manual and, for a plain type, its script.
 struct BoxCommand {
-    std::string_view Control;  ///< The menu entry
-    std::string_view Caption;
-    std::string_view Dialog;   ///< Form that it opens, "input box" for a prompt, "" for none
-    std::string_view BoxType;  ///< "" when the dialog decides
-    const char* BoxText;       ///< nullptr when it is not written, or by the dialog
-    int Entries;               ///< How many stay open, the first ones
-    int Exits;
-    IconSource Icon;
-    /// Runs the dialog for the armed box of this number, where it is none of the option lists.
-    void (*Complete)(int box) = nullptr;
-    /// Asks for the type before there is a box.
-    std::string (*AskType)() = nullptr;
+    int Depth;                      ///< In the menu: 1 for an entry of "Functions" itself
+    std::string_view Control;       ///< The entry's name
+    std::string_view Caption;       ///< "-" for a separator
+    std::string_view BoxType = "";  ///< "" when the dialog decides
+    const char* BoxText = nullptr;  ///< nullptr when it is not written, or by the dialog
+    int Entries = NoBox;            ///< How many stay open, the first ones
+    int Exits = 0;
+    IconSource Icon = IconSource::Type;
+    int Cell = 0;                  ///< Picture of its toolbox keys and its type; 0 for none
+    std::string_view Dialog = "";  ///< Form that it opens, "input box" for a prompt
+    std::array<std::string_view, 2> ToolboxKeys = {};
+    std::string_view Page = "";  ///< The manual's page, by its anchor
+    /// What the box writes once its feeders are done, with the holes of the emission chain; "" for
+    /// a type that the chain knows.
+    std::string_view Line = "";
 };
-extern const std::vector<BoxCommand> boxCommands;
 
-/// Runs the command of a menu entry on a worksheet and leaves its box armed; nothing happens for an
-/// entry that makes no box. The writes fall on record NextBox - 1, whatever AddBox has left there:
-/// a box that is armed already is retyped, with its former text and locks where the command writes
-/// none.
-void RunBoxCommand(Worksheet& sheet, std::string_view control);
+/// The rows of the menu below "Multiple Arrows", in order.
+extern const std::span<const BoxCommand> boxCommands;
 
-/// A key that the toolbox fires at a worksheet, and the command that it runs. The first row of a
-/// key counts.
-struct ToolboxKey {
-    std::string_view Key;
-    std::string_view Control;
-};
-extern const std::vector<ToolboxKey> toolboxKeys;
+inline bool MakesBox(const BoxCommand& row) { return row.Entries != NoBox; }
 
-/// Runs the command of the key in sheet.cmdEventFire; nothing happens for one that is not in the
-/// table.
-void cmdEventFire_Click(Worksheet& sheet);
+/// The command of a menu entry that makes a box, nullptr for any other name.
+const BoxCommand* FindBoxCommand(std::string_view control);
+
+/// The menu entry that a key of the toolbox stands for, "" for a key that is none.
+std::string_view ToolboxCommand(std::string_view key);
+
+/// The picture of a command's type or toolbox key, 0 for any other key.
+int CommandCell(std::string_view key);
 
 }  // namespace quorvane

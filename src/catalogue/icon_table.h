@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <span>
 #include <string_view>
-#include <vector>
 
 namespace quorvane {
 
@@ -10,14 +10,19 @@ namespace quorvane {
 constexpr int IconPixels = 32;
 constexpr int IconColumns = 15;
 constexpr int IconCells = 146;
-/// The cell of a key that the table doesn't have.
+/// The cell of a key that has none.
 constexpr int FallbackCell = 104;
 
 struct IconRow {
     int Cell;
     std::string_view Key;
 };
-extern const std::vector<IconRow> iconTable;
+/// The keys that are neither the type nor a toolbox key of a box command: what the option lists
+/// make of a box, kinds of plot, texts. A command's own picture stands in its row.
+extern const std::span<const IconRow> iconTable;
+
+/// The cell of a key; the comparison is case-sensitive.
+int IconCell(std::string_view key);
 
 /// The strip's clip window, in pixels.
 struct IconStrip {
@@ -26,7 +31,7 @@ struct IconStrip {
 };
 extern IconStrip icons;
 
-/// Moves the clip window to the cell of a key; the comparison is case-sensitive.
+/// Moves the clip window to the cell of a key.
 void SelectBoxIcon(std::string_view key);
 
 /// The cell under the clip window: the face that a box is given.

@@ -5,10 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "diagram/box_table.h"
-#include "platform/checked_array.h"
-#include "platform/form.h"
-
 namespace quorvane {
 
 /// An option of a list and what it makes of the box.
@@ -53,32 +49,5 @@ const OptionList* FindOptionList(std::string_view dialog);
 
 /// The object name of an option: "opn(3)", "btnOps(1)", "add"; "" where there is no button.
 std::string OptionName(const OptionList& list, const ListOption& option);
-
-/// Rows of the longest list.
-constexpr int MaxOptions = 14;
-
-/// The one record of all these dialogs: one stands at a time.
-struct OptionListForm {
-    FormState Form;
-    const OptionList* List = nullptr;
-    CheckedArray<OptionButton, 0, MaxOptions - 1> Options;  ///< By their rows in the list
-    std::string txtOpn;  ///< The index last clicked, as decimal text
-    TextBox Field;       ///< The further field that holds text
-    CheckBox chkElement;
-    Button cmdOK;
-};
-extern OptionListForm frmOptionList;
-
-void frmOptionList_Load(const OptionList& list);
-/// A click on the option in this row of the list.
-void frmOptionList_Option_Click(int row);
-void frmOptionList_Field_Change();
-void frmOptionList_cmdOK_Click();
-/// The form of a list, named after its dialog.
-Form OptionList_Table(const OptionList& list);
-
-/// Runs the dialog of a list for a box and writes what the picked option says; false when none was
-/// picked, which only the arithmetic operators allow.
-bool RunOptionList(const OptionList& list, Box& box);
 
 }  // namespace quorvane

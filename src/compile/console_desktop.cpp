@@ -3,7 +3,7 @@
 
 #include <sstream>
 
-#include "catalogue/matrix_input.h"
+#include "commands/matrix_input.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
 

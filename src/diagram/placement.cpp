@@ -63,10 +63,7 @@ void BringHere(Worksheet& sheet, int number) {
 
 }  // namespace
 
-void GiveIcon(BoxControl& control, std::string_view key) {
-    SelectBoxIcon(key);
-    control.Picture = Clip();
-}
+void GiveIcon(BoxControl& control, std::string_view key) { control.Picture = IconCell(key); }
 
 void AddBox(Worksheet& sheet) {
     if (EditMode == 2) return;

@@ -123,9 +123,8 @@ void PlaceBox(Load& load, Box& box, std::int16_t number) {
 
 void ShowBox(Load& load, std::int16_t number) {
     load.Do([&] {
-        SelectBoxIcon(BoxIconKey(number));
         auto& control = DocumentWindow(load.Document).box[number];
-        control.Picture = Clip();
+        control.Picture = IconCell(BoxIconKey(number));
         control.Visible = true;
     });
 }

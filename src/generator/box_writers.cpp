@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "generator/box_writers.h"
 
-#include "catalogue/matrix_input.h"
+#include "commands/matrix_input.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <unordered_map>
 
+#include "catalogue/box_commands.h"
 #include "generator/box_writers.h"
 #include "generator/control_flow.h"
 #include "platform/numbers.h"
@@ -31,8 +32,6 @@ const std::vector<EmissionRow> emissionChain = {
     {.Keys = {"Logic Operator"}, .Opens = Gate::Inputs, .Write = WriteLogic},
     {.Keys = {"Matrix Manipulation"}, .Opens = Gate::Inputs, .Write = WriteMatrixManipulation},
     {.Keys = {"Split"}, .Opens = Gate::Inputs, .Write = WriteSplit},
-    {.Keys = {"Matrix Length"}, .Opens = Gate::Inputs, .Head = "box{id}=length(box{in1});"},
-    {.Keys = {"Matrix Size"}, .Opens = Gate::Inputs, .Head = "box{id}=size(box{in1});"},
 
     // Functions
     {.Keys = {"ODE23", "ODE45"}, .Opens = Gate::Inputs,
@@ -81,7 +80,6 @@ const std::vector<EmissionRow> emissionChain = {
      .Pieces = {{"2", ",box{in2}", For::Types, {"Str2Mat", "Mat2Str"}},
                 {"3", ",box{in3}", For::Types, {"Mat2Str"}}},
      .Close = ");"},
-    {.Keys = {"User Input"}, .Opens = Gate::Inputs, .Head = "box{id}=input('{value}');"},
     {.Keys = {"Pause"}, .Opens = Gate::Inputs, .Write = WritePause},
     {.Keys = {"Companion matrix", "Several small test matrices", "Hadamard matrix", "Hankel matrix",
               "Hilbert matrix", "Inverse Hilbert matrix", "Kronecker tensor product", "Magic square",
@@ -128,7 +126,6 @@ const std::vector<EmissionRow> emissionChain = {
 
     // Sinks
     {.Keys = {"Ascii File Output"}, .Opens = Gate::Inputs, .Write = WriteFileOutput},
-    {.Keys = {"Screen Output"}, .Opens = Gate::Inputs, .Head = "box{id}=box{in1}"},
     {.Keys = {"Plot Output"}, .Opens = Gate::Inputs, .Write = WritePlot},
     {.Keys = {"Trash"}, .Opens = Gate::Inputs, .Write = WriteTrash},
 
@@ -198,13 +195,25 @@ void WriteTexts(Run& run, const EmissionRow& row, int box) {
     run.scriptText += "\r\n";
 }
 
+/// A row for each command whose type writes a single plain line.
+std::vector<EmissionRow> PlainRows() {
+    std::vector<EmissionRow> rows;
+    for (const auto& command : boxCommands) {
+        if (command.Line.empty()) continue;
+        rows.push_back({.Keys = {command.BoxType}, .Opens = Gate::Inputs, .Head = command.Line});
+    }
+    return rows;
+}
+
 }  // namespace
 
 const EmissionRow* FindEmissionRow(std::string_view type) {
     // The rows that list their types are looked up; those that can't list them stand at the end of
     // the chain and are asked in turn.
+    static const auto plainRows = PlainRows();
     static const auto byKey = [] {
         std::unordered_map<std::string_view, const EmissionRow*> rows;
+        for (const auto& row : plainRows) rows.emplace(row.Keys.front(), &row);
         for (const auto& row : emissionChain) {
             for (const auto key : row.Keys) rows.emplace(key, &row);
         }

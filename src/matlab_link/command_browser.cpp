@@ -6,7 +6,7 @@
 #include <string>
 #include <unordered_set>
 
-#include "catalogue/function_dialogs.h"
+#include "commands/function_dialogs.h"
 #include "matlab_link/mfile_index.h"
 #include "platform/desktop.h"
 #include "platform/file_table.h"

@@ -9,8 +9,8 @@
 #include <array>
 #include <map>
 
+#include "commands/worksheet_events.h"
 #include "diagram/box_table.h"
-#include "diagram/worksheet_events.h"
 #include "qt/dispatch.h"
 #include "qt/icon_strip.h"
 #include "qt/mouse.h"

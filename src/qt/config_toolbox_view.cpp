@@ -9,7 +9,7 @@
 #include <QScrollBar>
 #include <algorithm>
 
-#include "diagram/worksheet_events.h"
+#include "commands/worksheet_events.h"
 #include "qt/dispatch.h"
 #include "qt/icon_strip.h"
 #include "qt/mouse.h"

@@ -16,6 +16,7 @@
 
 #include "qt/frame_view.h"
 #include "qt/screen_units.h"
+#include "shell/manual_index.h"
 
 namespace quorvane {
 
@@ -77,7 +78,9 @@ bool HelpWindow::Open(const std::string& file) {
     QFile manual(ToScreen(file));
     if (!manual.open(QIODevice::ReadOnly)) return false;
     text_->setSearchPaths({QFileInfo(manual).absolutePath()});
-    manual_ = QString::fromUtf8(manual.readAll());
+    auto pages = manual.readAll();
+    pages.replace(QByteArrayView(ManualIndexPlace), QByteArray::fromStdString(ManualIndex()));
+    manual_ = QString::fromUtf8(pages);
     ShowText(manual_);
     FillContents();
     return true;

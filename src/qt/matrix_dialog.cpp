@@ -7,7 +7,7 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
-#include "catalogue/matrix_input.h"
+#include "commands/matrix_input.h"
 #include "qt/dispatch.h"
 #include "qt/screen_units.h"
 

@@ -3,7 +3,7 @@
 
 #include <QUuid>
 
-#include "diagram/worksheet_events.h"
+#include "commands/worksheet_events.h"
 
 namespace quorvane {
 

@@ -8,7 +8,7 @@
 #include <QMimeData>
 #include <QPainter>
 
-#include "diagram/worksheet_events.h"
+#include "commands/worksheet_events.h"
 #include "qt/box_view.h"
 #include "qt/dispatch.h"
 #include "qt/mouse.h"

@@ -32,10 +32,10 @@ QIcon ArrowPanelFace(const ArrowPanel& panel, const QSize& size, qreal ratio) {
     face.setDevicePixelRatio(ratio);
     face.fill(ColorOf(panel.BackColor));
     if (panel.HoldsArrow) {
-        SelectBoxIcon("Arrow");
         const int side = qMin(size.width(), size.height());
         QPainter painter(&face);
-        painter.drawPixmap((size.width() - side) / 2, 0, CellPixmap(Clip(), side, ratio));
+        painter.drawPixmap((size.width() - side) / 2, 0,
+                           CellPixmap(IconCell("Arrow"), side, ratio));
     }
     return face;
 }

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "shell/forms.h"
 
-#include "catalogue/flow_dialogs.h"
-#include "catalogue/function_dialogs.h"
-#include "catalogue/matrix_dialogs.h"
-#include "catalogue/option_lists.h"
-#include "catalogue/plot_box.h"
+#include "commands/flow_dialogs.h"
+#include "commands/function_dialogs.h"
+#include "commands/matrix_dialogs.h"
+#include "commands/option_list_dialog.h"
+#include "commands/plot_box.h"
 #include "diagram/box_info.h"
 #include "diagram/comment_form.h"
 #include "matlab_link/command_browser.h"

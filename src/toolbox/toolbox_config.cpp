@@ -6,7 +6,7 @@
 #include <string>
 
 #include "catalogue/icon_table.h"
-#include "diagram/worksheet_events.h"
+#include "commands/worksheet_events.h"
 #include "platform/desktop.h"
 #include "platform/file_table.h"
 #include "platform/paths.h"
@@ -42,11 +42,6 @@ constexpr int FullCount = 26;
 constexpr int HighestCount = std::numeric_limits<std::int16_t>::max();
 constexpr std::string_view LineEnd = "\r\n";
 
-int CellOfKey(std::string_view key) {
-    SelectBoxIcon(key);
-    return Clip();
-}
-
 /// Number of the catalogue's key that element `Index` of the page shows, from 1.
 int CatalogueIndex(int Index) { return frmConfigToolbox.scroll.Value * PageColumns + Index; }
 
@@ -59,7 +54,7 @@ std::string_view CatalogueKey(int number) {
 void ShowCataloguePage() {
     for (int i = 1; i <= frmConfigToolbox.cmdPict.UpperBound; ++i) {
         const auto key = CatalogueKey(CatalogueIndex(i));
-        frmConfigToolbox.cmdPict[i].Picture = key.empty() ? 0 : CellOfKey(key);
+        frmConfigToolbox.cmdPict[i].Picture = key.empty() ? 0 : IconCell(key);
     }
 }
 
@@ -72,7 +67,7 @@ void LoadPanelIcon(int index, int place, std::string_view key) {
     icon.Place = frmConfigToolbox.cmdButton[0].Place;
     icon.Place.Top += row * PanelPitch;
     icon.Place.Left += (column - 1) * PanelPitch;
-    icon.Picture = CellOfKey(key);
+    icon.Picture = IconCell(key);
     icon.Visible = true;
 }
 
@@ -153,7 +148,7 @@ void RemoveKey(int index) {
         const auto next = BehindLine(kept, at);
         const auto key = kept.substr(at, next - at - LineEnd.size());
         AppendKey(key);
-        Attempt([&] { frmConfigToolbox.cmdButton[icon].Picture = CellOfKey(key); });
+        Attempt([&] { frmConfigToolbox.cmdButton[icon].Picture = IconCell(key); });
         at = next;
     }
     Attempt([] { frmConfigToolbox.cmdButton.Unload(frmConfigToolbox.Count); });

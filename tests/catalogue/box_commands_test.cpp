@@ -1,7 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/box_commands.h"
 
+#include <set>
+
 #include "catalogue/catalogue_fixture.h"
+#include "catalogue/icon_table.h"
+#include "catalogue/option_lists.h"
+#include "files/work_folder.h"
+#include "generator/check_rows.h"
+#include "generator/emission_chain.h"
+#include "shell/manual_index.h"
+#include "shell/menus.h"
+#include "toolbox/toolbox_config.h"
 
 namespace quorvane::testing {
 
@@ -9,15 +19,13 @@ using BoxCommands = CatalogueTest;
 
 TEST_F(BoxCommands, EachArmsOneBoxAsTheCatalogueSays) {
     const auto rows = ReadTable("catalogue/box_commands.tsv");
-    ASSERT_EQ(boxCommands.size(), rows.size());
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto& row = rows[i];
-        const auto& dialog = row[2];
+    EXPECT_EQ(
+        static_cast<std::size_t>(std::count_if(boxCommands.begin(), boxCommands.end(), MakesBox)),
+        rows.size());
+    for (const auto& row : rows) {
+        const auto& dialog = row[1];
         const bool form = dialog.starts_with("frm");
         SCOPED_TRACE(row.back());
-        EXPECT_EQ(boxCommands[i].Control, row[0]);
-        EXPECT_EQ(boxCommands[i].Caption, row[1]);
-        EXPECT_EQ(boxCommands[i].Dialog, dialog);
         Restart();
         if (form) {
             // OK at once, but in the plot's dialog, which can't be left without a choice
@@ -30,8 +38,8 @@ TEST_F(BoxCommands, EachArmsOneBoxAsTheCatalogueSays) {
         }
         EXPECT_EQ(NextBox, 2);
         EXPECT_EQ(EditMode, 2);
-        EXPECT_EQ(Row(Boxes[1]), RowAt(row, 3));
-        EXPECT_EQ(NumberText(Sheet().box[1].Picture), row[7]);
+        EXPECT_EQ(Row(Boxes[1]), RowAt(row, 2));
+        EXPECT_EQ(NumberText(Sheet().box[1].Picture), row[6]);
         EXPECT_EQ(screen.FormsShown, form ? Texts{dialog} : Texts{});
         EXPECT_EQ(screen.Prompts.size(), dialog == "input box" ? 1u : 0u);
         EXPECT_EQ(TakeTold(), "");
@@ -39,14 +47,11 @@ TEST_F(BoxCommands, EachArmsOneBoxAsTheCatalogueSays) {
 }
 
 TEST_F(BoxCommands, ToolboxKeysRunTheirCommands) {
-    const auto rows = ReadTable("catalogue/toolbox_keys.tsv");
-    ASSERT_EQ(toolboxKeys.size(), rows.size());
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto& key = rows[i][0];
-        SCOPED_TRACE(rows[i].back());
-        EXPECT_EQ(toolboxKeys[i].Key, key);
+    for (const auto key : toolboxCatalogue) {
+        SCOPED_TRACE(key);
+        const auto control = ToolboxCommand(key);
         Restart();
-        RunBoxCommand(Sheet(), rows[i][1]);
+        RunBoxCommand(Sheet(), control);
         const Box expected = Boxes[1];
         Restart();
         const int document = NewDocument();
@@ -57,6 +62,7 @@ TEST_F(BoxCommands, ToolboxKeysRunTheirCommands) {
         EXPECT_EQ(EditMode, key == "Arrow" ? 3 : key == "Subroutine" ? 1 : 2);
         EXPECT_EQ(screen.MenusPopped, key == "Subroutine" ? Texts{"mnuSpecSub|2"} : Texts{});
     }
+    EXPECT_EQ(ToolboxCommand("Special Matrix"), "mnuMatMake");
     for (const char* unknown : {"", "Pause", "sin", "Two Dimentional Inverse FFT"}) {
         Restart();
         Sheet().cmdEventFire = unknown;
@@ -65,6 +71,50 @@ TEST_F(BoxCommands, ToolboxKeysRunTheirCommands) {
     }
     RunBoxCommand(Sheet(), "mnuArrow");
     EXPECT_EQ(EditMode, 1);
+}
+
+/// The types that a command may give its box.
+std::set<std::string> TypesOf(const BoxCommand& command) {
+    std::set<std::string> types = {std::string(command.BoxType)};
+    if (const auto* list = FindOptionList(command.Dialog)) {
+        for (const auto& option : list->Options) types.emplace(option.BoxType);
+    }
+    if (types.size() > 1) types.erase("");
+    return types;
+}
+
+TEST_F(BoxCommands, EachHasItsMenuEntryPictureScriptAndPage) {
+    const auto manual = ReadAll(QUORVANE_SOURCE_DIR "/resources/help/QUORVANE.HLP");
+    EXPECT_NE(manual.find(ManualIndexPlace), std::string::npos);
+    const auto index = ManualIndex();
+    EXPECT_NE(index.find("Inputs, Keyboard, <a href=\"#inputs\">Matrix</a>"), std::string::npos);
+    std::set<std::string_view> keys;
+    for (const auto& command : boxCommands) {
+        SCOPED_TRACE(command.Control);
+        const auto entries =
+            std::count_if(documentMenu.begin(), documentMenu.end(), [&](auto& row) {
+                return row.Control == command.Control && row.Caption == command.Caption &&
+                       HasCommand(row) == MakesBox(command);
+            });
+        EXPECT_EQ(entries, 1);
+        for (const auto key : command.ToolboxKeys) {
+            if (key.empty()) continue;
+            EXPECT_TRUE(keys.insert(key).second) << key;
+            EXPECT_NE(IconCell(key), FallbackCell) << key;
+        }
+        if (!MakesBox(command)) continue;
+        for (const auto& type : TypesOf(command)) {
+            const bool isNamed = type.empty() || type == "Pickup" || type == "Comment";
+            EXPECT_TRUE(isNamed || FindEmissionRow(type) || FindTroubledType(type)) << type;
+        }
+        const std::string page(command.Page);
+        EXPECT_NE(manual.find(" id=\"" + page + "\""), std::string::npos) << page;
+        EXPECT_NE(index.find("<a href=\"#" + page + "\">"), std::string::npos) << page;
+    }
+    // Every tool can be put into a toolbox, each once.
+    keys.insert("Arrow");
+    EXPECT_EQ(std::set<std::string_view>(toolboxCatalogue.begin(), toolboxCatalogue.end()), keys);
+    EXPECT_EQ(toolboxCatalogue.size(), keys.size());
 }
 
 TEST_F(BoxCommands, AnArmedBoxIsRetyped) {

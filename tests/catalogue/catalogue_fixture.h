@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "catalogue/box_commands.h"
+#include "commands/run_command.h"
 #include "platform/numbers.h"
 #include "shell/forms.h"
 #include "support/diagram_fixture.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/catalogue_fixture.h"
-#include "catalogue/command_browser_door.h"
-#include "catalogue/flow_dialogs.h"
-#include "catalogue/function_dialogs.h"
-#include "catalogue/option_lists.h"
+#include "commands/command_browser_door.h"
+#include "commands/flow_dialogs.h"
+#include "commands/function_dialogs.h"
+#include "commands/option_list_dialog.h"
 
 namespace quorvane::testing {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/plot_box.h"
+#include "commands/plot_box.h"
 
 #include <set>
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "commands/worksheet_events.h"
 #include "diagram/arrows.h"
 #include "diagram/comment_form.h"
 #include "diagram/connections.h"
@@ -8,7 +9,6 @@
 #include "diagram/placement.h"
 #include "diagram/preferences.h"
 #include "diagram/selection.h"
-#include "diagram/worksheet_events.h"
 #include "platform/numbers.h"
 #include "support/step_test.h"
 

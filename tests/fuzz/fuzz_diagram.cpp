@@ -3,7 +3,7 @@
 // end in any of its ways, in a run-time error too; it may not crash, hang, ask for ever or leave
 // marks behind, and what was saved must come back.
 
-#include "catalogue/matrix_input.h"
+#include "commands/matrix_input.h"
 #include "diagram/box_table.h"
 #include "diagram/worksheet.h"
 #include "files/document_file.h"

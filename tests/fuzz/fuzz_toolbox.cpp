@@ -7,9 +7,9 @@
 #include <sstream>
 
 #include "catalogue/icon_table.h"
+#include "commands/worksheet_events.h"
 #include "diagram/box_table.h"
 #include "diagram/preferences.h"
-#include "diagram/worksheet_events.h"
 #include "files/document_file.h"
 #include "fuzz/fuzz_support.h"
 #include "toolbox/toolbox.h"

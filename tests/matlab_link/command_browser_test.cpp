@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "matlab_link/command_browser.h"
 
-#include "catalogue/command_browser_door.h"
-#include "catalogue/function_dialogs.h"
+#include "commands/command_browser_door.h"
+#include "commands/function_dialogs.h"
 #include "diagram/preferences.h"
 #include "files/document_fixture.h"
 #include "matlab_link/mfile_index.h"

@@ -5,7 +5,6 @@
 #include <regex>
 #include <set>
 
-#include "catalogue/box_commands.h"
 #include "files/work_folder.h"
 #include "support/diagram_fixture.h"
 
@@ -83,16 +82,6 @@ TEST(Manual, LinksAndPicturesLeadSomewhere) {
         const bool built = picture.starts_with(":/");
         const auto file = built ? icons / picture.substr(2) : ManualFolder / picture;
         EXPECT_TRUE(std::filesystem::exists(file)) << picture;
-    }
-}
-
-TEST(Manual, NamesEveryCommandThatMakesABox) {
-    const auto text = ManualText();
-    for (const auto& command : boxCommands) {
-        std::string caption(command.Caption);
-        std::erase(caption, '&');
-        caption.erase(caption.find_last_not_of(". ") + 1);
-        EXPECT_NE(text.find(caption), std::string::npos) << caption;
     }
 }
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: MIT
 #include "toolbox/toolbox.h"
 
-#include "catalogue/box_commands.h"
+#include "commands/worksheet_events.h"
 #include "diagram/box_table.h"
 #include "diagram/preferences.h"
-#include "diagram/worksheet_events.h"
 #include "platform/file_table.h"
 #include "platform/numbers.h"
 #include "support/step_test.h"
@@ -135,13 +134,6 @@ TEST_F(ToolboxTest, LongFilesLoadAsFarAsTheCountsGo) {
     WriteAll("my_box.tlb", "For\r\n" + line + "\r\n\r\n");
     frmConfigToolbox_Load();
     EXPECT_EQ(frmConfigToolbox.lbltoolbox.Caption, "For\r\n");
-}
-
-TEST_F(ToolboxTest, TheCatalogueHoldsEachToolOnce) {
-    std::set<std::string_view> tools;
-    for (const auto& row : toolboxKeys) tools.insert(row.Key);
-    EXPECT_EQ(std::set<std::string_view>(toolboxCatalogue.begin(), toolboxCatalogue.end()), tools);
-    EXPECT_EQ(toolboxCatalogue.size(), tools.size());
 }
 
 }  // namespace quorvane::testing

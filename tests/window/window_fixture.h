@@ -50,6 +50,7 @@ public:
     ~Program() override;
 
     std::deque<Hand> Answers;
+    Hand Otherwise;     ///< What answers when Answers is empty, if anything does
     QStringList Asked;  ///< Of each dialog its name or title, ": ", and its message or prompt
 
     /// Starts the program anew from the current folder. Before that there is a bare frame.

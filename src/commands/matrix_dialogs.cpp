@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/matrix_dialogs.h"
+#include "commands/matrix_dialogs.h"
 
 #include "diagram/box_table.h"
 #include "platform/desktop.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/flow_dialogs.h"
+#include "commands/flow_dialogs.h"
 
 #include <cstdio>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/plot_box.h"
+#include "commands/plot_box.h"
 
 #include <algorithm>
 
@@ -272,8 +272,7 @@ void frmPlot_cmbType_Change() {
     const auto* type = FindGraphType(frmPlot.cmbType.Text);
     if (!type) return;
     frmPlot.lblIcon = type->Icon;
-    SelectBoxIcon(frmPlot.lblIcon);
-    frmPlot.pctType.Picture = Clip();
+    frmPlot.pctType.Picture = IconCell(frmPlot.lblIcon);
     if (type->Z == Hidden) {
         HideZAxis();
     } else {

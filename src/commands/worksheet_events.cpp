@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include "diagram/worksheet_events.h"
+#include "commands/worksheet_events.h"
 
-#include "catalogue/box_commands.h"
+#include "commands/run_command.h"
 #include "diagram/arrows.h"
 #include "diagram/box_info.h"
 #include "diagram/box_table.h"

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/function_dialogs.h"
+#include "commands/function_dialogs.h"
 
 #include <string>
 
-#include "catalogue/command_browser_door.h"
+#include "commands/command_browser_door.h"
 #include "diagram/box_table.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"

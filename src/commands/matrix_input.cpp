@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "catalogue/matrix_input.h"
+#include "commands/matrix_input.h"
 
 #include <algorithm>
 

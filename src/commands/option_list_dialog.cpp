@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: MIT
+#include "commands/option_list_dialog.h"
+
+#include <algorithm>
+
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+
+namespace quorvane {
+
+OptionListForm frmOptionList;
+
+namespace {
+
+/// The option of frmConst that takes its constant from the field.
+constexpr std::string_view ConstantIndex = "5";
+
+int RowOf(const OptionList& list, std::string_view index) {
+    int row = 0;
+    for (const auto& option : list.Options) {
+        if (option.Index != NoIndex && NumberText(option.Index) == index) return row;
+        ++row;
+    }
+    return -1;
+}
+
+/// The option that was picked: by the remembered index, or in frmBasic by the first button that is
+/// on.
+const ListOption* PickedOption(const OptionList& list) {
+    int row = RowOf(list, frmOptionList.txtOpn);
+    if (list.Dialog == "frmBasic") {
+        const auto& options = frmOptionList.Options;
+        row =
+            static_cast<int>(std::find_if(options.begin(), options.end(),
+                                          [](const OptionButton& button) { return button.Value; }) -
+                             options.begin());
+    }
+    if (row < 0 || row >= static_cast<int>(list.Options.size())) return nullptr;
+    return &list.Options[static_cast<std::size_t>(row)];
+}
+
+std::string FieldText(const ListField& field) {
+    if (field.What == ListField::Kind::Check) return frmOptionList.chkElement.Value ? "." : "";
+    return frmOptionList.Field.Text;
+}
+
+bool IsOpen(std::string_view entries, int entry) {
+    return entries.find(static_cast<char>('0' + entry)) != std::string_view::npos;
+}
+
+/// Locks or opens the entries in which an option differs from its list; the others stay as they
+/// are.
+void WriteEntries(const OptionList& list, const ListOption& option, Box& box) {
+    if (!option.Entries) return;
+    for (int i = 1; i <= 3; ++i) {
+        const bool open = IsOpen(option.Entries, i);
+        if (open != IsOpen(list.Entries, i)) box.BoxIn[i] = open ? std::int16_t{0} : LockedSlot;
+    }
+}
+
+void WriteText(const OptionList& list, const ListOption& option, Box& box) {
+    if (!option.BoxText) return;
+    constexpr std::string_view hole = "{field}";
+    std::string text = option.BoxText;
+    const auto place = text.find(hole);
+    if (place != std::string::npos) {
+        const auto field = FieldText(list.Field);
+        if (field.empty() && list.Field.SkipEmpty) return;
+        text.replace(place, hole.size(), field);
+    }
+    box.BoxText = text;
+}
+
+}  // namespace
+
+void frmOptionList_Load(const OptionList& list) {
+    frmOptionList = {};
+    frmOptionList.List = &list;
+    frmOptionList.Form = {.Caption = std::string(list.Caption), .Loaded = true};
+    int row = 0;
+    for (const auto& option : list.Options) {
+        auto& button = frmOptionList.Options[row++];
+        button.Caption = option.Caption;
+        // What OK would take shows as selected.
+        button.Value = option.Index != NoIndex && NumberText(option.Index) == list.FirstIndex;
+    }
+    frmOptionList.txtOpn = list.FirstIndex;
+    frmOptionList.Field.Text = list.Field.Default;
+    frmOptionList.cmdOK.Caption = "OK";
+}
+
+void frmOptionList_Option_Click(int row) {
+    for (auto& button : frmOptionList.Options) button.Value = false;
+    frmOptionList.Options[row].Value = true;
+    const int index = frmOptionList.List->Options[static_cast<std::size_t>(row)].Index;
+    if (index != NoIndex) frmOptionList.txtOpn = NumberText(index);
+}
+
+void frmOptionList_Field_Change() {
+    if (frmOptionList.List->Dialog != "frmConst") return;
+    frmOptionList_Option_Click(RowOf(*frmOptionList.List, ConstantIndex));
+    if (!IsNumeric(frmOptionList.Field.Text)) frmOptionList.Field.Text = "";
+}
+
+void frmOptionList_cmdOK_Click() {
+    if (frmOptionList.List->Dialog == "frmConst" && frmOptionList.txtOpn == ConstantIndex &&
+        frmOptionList.Field.Text.empty()) {
+        Tell("Please enter a value for the constant.", Icon::Exclamation);
+        return;
+    }
+    frmOptionList.Form.Visible = false;
+}
+
+Form OptionList_Table(const OptionList& list) {
+    Form form;
+    form.Name = list.Dialog;
+    form.State = &frmOptionList.Form;
+    int row = 0;
+    for (const auto& option : list.Options) {
+        const auto name = OptionName(list, option);
+        if (!name.empty()) {
+            form.Controls.push_back(
+                {name, &frmOptionList.Options[row], [row] { frmOptionList_Option_Click(row); }});
+        }
+        ++row;
+    }
+    const std::string field(list.Field.Control);
+    if (list.Field.What == ListField::Kind::Text) {
+        form.Controls.push_back({field, &frmOptionList.Field, frmOptionList_Field_Change});
+    } else if (list.Field.What == ListField::Kind::Check) {
+        form.Controls.push_back({field, &frmOptionList.chkElement});
+    }
+    form.Controls.push_back({"cmdOK", &frmOptionList.cmdOK, frmOptionList_cmdOK_Click});
+    return form;
+}
+
+bool RunOptionList(const OptionList& list, Box& box) {
+    for (int i = 1; i <= 3; ++i) {
+        if (!IsOpen(list.Entries, i)) box.BoxIn[i] = LockedSlot;
+    }
+    frmOptionList_Load(list);
+    desktop->ShowModal(list.Dialog);
+    const auto* option = PickedOption(list);
+    if (option) {
+        if (!option->BoxType.empty()) box.BoxType = option->BoxType;
+        WriteText(list, *option, box);
+        WriteEntries(list, *option, box);
+    } else if (list.Field.What == ListField::Kind::Check) {
+        box.BoxText = FieldText(list.Field);
+    }
+    frmOptionList = {};
+    return option != nullptr;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "catalogue/option_lists.h"
+#include "diagram/box_table.h"
+#include "platform/checked_array.h"
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// Rows of the longest list.
+constexpr int MaxOptions = 14;
+
+/// The one record of all these dialogs: one stands at a time.
+struct OptionListForm {
+    FormState Form;
+    const OptionList* List = nullptr;
+    CheckedArray<OptionButton, 0, MaxOptions - 1> Options;  ///< By their rows in the list
+    std::string txtOpn;  ///< The index last clicked, as decimal text
+    TextBox Field;       ///< The further field that holds text
+    CheckBox chkElement;
+    Button cmdOK;
+};
+extern OptionListForm frmOptionList;
+
+void frmOptionList_Load(const OptionList& list);
+/// A click on the option in this row of the list.
+void frmOptionList_Option_Click(int row);
+void frmOptionList_Field_Change();
+void frmOptionList_cmdOK_Click();
+/// The form of a list, named after its dialog.
+Form OptionList_Table(const OptionList& list);
+
+/// Runs the dialog of a list for a box and writes what the picked option says; false when none was
+/// picked, which only the arithmetic operators allow.
+bool RunOptionList(const OptionList& list, Box& box);
+
+}  // namespace quorvane
