@@ -45,13 +45,12 @@ std::vector<std::string> Drives() {
     return drives;
 }
 
-/// ".." and the subfolders of the current directory that don't hide.
+/// ".." and the subfolders of the current directory.
 std::vector<std::string> WaysOn() {
     std::vector<std::string> folders = {".."};
     ForEachEntry([&](const fs::directory_entry& entry) {
         std::error_code error;
-        const auto name = entry.path().filename().string();
-        if (entry.is_directory(error) && name[0] != '.') folders.push_back(name);
+        if (entry.is_directory(error)) folders.push_back(entry.path().filename().string());
     });
     std::sort(folders.begin() + 1, folders.end());
     return folders;

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/recovery.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "diagram/worksheet.h"
@@ -14,15 +13,6 @@
 namespace quorvane {
 
 namespace {
-
-/// Where this user's data of the program lies; "" when the surroundings don't tell.
-std::string DataFolder() {
-    const char* data = std::getenv("XDG_DATA_HOME");
-    if (data && *data) return JoinPath(data, "quorvane");
-    const char* home = std::getenv("HOME");
-    if (home && *home) return JoinPath(JoinPath(JoinPath(home, ".local"), "share"), "quorvane");
-    return "";
-}
 
 /// A name in the folder that no file has yet.
 std::string FreeName(const std::string& folder) {
@@ -37,7 +27,7 @@ std::string FreeName(const std::string& folder) {
 
 std::vector<std::string> WriteRecoveryFiles() {
     std::vector<std::string> files;
-    const auto folder = DataFolder();
+    const auto folder = UserDataFolder();
     if (folder.empty()) return files;
     std::error_code error;
     std::filesystem::create_directories(folder, error);

@@ -64,6 +64,17 @@ void FindSettings(int& flag) {
 
 }  // namespace
 
+void GoToSettings() {
+    const auto hasSettings = [](const std::string& folder) {
+        return Attempt([&] { FileAttributes(JoinPath(folder, "quorvane.ini")); });
+    };
+    Attempt([&] {
+        if (!hasSettings(CurrentDirectory()) && hasSettings(UserDataFolder())) {
+            ChangeDirectory(UserDataFolder());
+        }
+    });
+}
+
 void frmSplash_Load() {
     frmSplash.Form.Loaded = true;
     frmSplash.lblProductName.Caption = "Quorvane";

@@ -19,6 +19,10 @@ void frmSplash_Frame1_Click();
 void frmSplash_KeyPress();
 Form frmSplash_Table();
 
+/// Where the current directory has no settings file and the user's data folder has one, which the
+/// launcher has made, goes there.
+void GoToSettings();
+
 /// Starts the program: shows the splash for 3 seconds, finds the program directory, reads the
 /// settings and brings up the toolbox. A current directory without a settings file makes the user
 /// choose the program directory; when that one has none either, the preferences stay as designed.

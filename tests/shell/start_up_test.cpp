@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/start_up.h"
 
+#include <cstdlib>
+
 #include "files/document_fixture.h"
 #include "files/settings.h"
 #include "generator/front.h"
@@ -85,6 +87,22 @@ TEST_F(StartUp, TheProgramDirectoryIsFoundOrAskedForOnce) {
     std::filesystem::remove_all(folder / "empty");
     EXPECT_EQ(Started(), " 1  shown") << "a folder that is gone is passed over";
     EXPECT_TRUE(start.Messages.empty());
+    ChangeDirectory(folder.Path.string());
+}
+
+TEST_F(StartUp, SettingsOfTheLauncherAreFound) {
+    setenv("XDG_DATA_HOME", (folder / "data").c_str(), 1);
+    const auto gone = [&](const char* from) {
+        ChangeDirectory(folder / from);
+        GoToSettings();
+        return std::filesystem::path(CurrentDirectory()).filename().string();
+    };
+    std::filesystem::create_directories(folder / "data/quorvane");
+    EXPECT_EQ(gone("here"), "here") << "a folder without settings";
+    WriteAll(folder / "data/quorvane/quorvane.ini", "[Prefrences]\r\n");
+    EXPECT_EQ(gone("here"), "quorvane");
+    EXPECT_EQ(gone("program"), "program") << "the current directory comes first";
+    unsetenv("XDG_DATA_HOME");
     ChangeDirectory(folder.Path.string());
 }
 
