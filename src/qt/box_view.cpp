@@ -28,7 +28,7 @@ QPixmap DrawFace(int cell, int side, bool focused, qreal ratio) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(
         QPen(focused ? QColor(0xFF, 0xB3, 0x00) : QColor(0x3A, 0x42, 0x4C), focused ? 2 : 1));
-    painter.setBrush(QColor(0xFB, 0xFB, 0xF8));
+    painter.setBrush(PaperColor);
     painter.drawRoundedRect(QRectF(0.5, 0.5, side - 1, side - 1), 4, 4);
     painter.drawPixmap(QPointF(1.5, 1.5), CellPixmap(cell, side - 3, ratio));
     return face;
@@ -93,6 +93,9 @@ void BoxView::mousePressEvent(QMouseEvent* event) {
                       ShiftNumber(event->modifiers()));
     });
 }
+
+/// A double click is one click: its second press does nothing.
+void BoxView::mouseDoubleClickEvent(QMouseEvent*) {}
 
 void BoxView::mouseMoveEvent(QMouseEvent* event) {
     if (pressed_ && dragAutomatic_) {

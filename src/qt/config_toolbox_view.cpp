@@ -38,7 +38,7 @@ IconTile::IconTile(const QString& name, QWidget* holder) : QLabel(holder) {
 void IconTile::ShowCell(int cell) {
     if (cell == cell_) return;
     cell_ = cell;
-    setPixmap(cell > 0 ? CellPixmap(cell, width() - 2, devicePixelRatioF()) : QPixmap());
+    setPixmap(cell > 0 ? CellOnPaper(cell, width() - 2, devicePixelRatioF()) : QPixmap());
     setFocusPolicy(cell > 0 ? Qt::TabFocus : Qt::NoFocus);
 }
 
@@ -64,7 +64,7 @@ void IconTile::mouseMoveEvent(QMouseEvent* event) {
     carried->setData(DragType(TileDrag), Carried);
     auto* drag = new QDrag(this);
     drag->setMimeData(carried);
-    drag->setPixmap(CellPixmap(cell_, width(), devicePixelRatioF()));
+    drag->setPixmap(CellOnPaper(cell_, width(), devicePixelRatioF()));
     drag->setHotSpot(pressedAt_);
     drag->exec(Qt::CopyAction);
 }

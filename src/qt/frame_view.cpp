@@ -263,6 +263,21 @@ void FrameView::PopupMenu(const QString& control, int document) {
     menu->popup(QCursor::pos());
 }
 
+/// A part of the worksheet that has the focus in the frame keeps it.
+void FrameView::FocusWorksheet(int document) {
+    auto* view = ViewOf(document);
+    if (!view) return;
+    activateWindow();
+    area_->setActiveSubWindow(static_cast<QMdiSubWindow*>(view->parentWidget()));
+    if (!view->isAncestorOf(focusWidget())) view->setFocus();
+}
+
+/// The toolbox follows once the frame is on the screen.
+void FrameView::showEvent(QShowEvent* event) {
+    QMainWindow::showEvent(event);
+    QMetaObject::invokeMethod(toolbox_, &ToolboxView::Refresh, Qt::QueuedConnection);
+}
+
 void FrameView::closeEvent(QCloseEvent* event) {
     event->ignore();
     Dispatch([] { UnloadFrame(); });

@@ -25,11 +25,14 @@ public:
     /// Shows the records on every window: worksheets come and go as the documents do.
     void Refresh();
     void Arrange(int how);
+    /// Gives the focus to the worksheet of this document, if it is there.
+    void FocusWorksheet(int document);
     QMdiArea* Area() const { return area_; }
     /// Pops up the menu of this control at the pointer; its commands work for this document.
     void PopupMenu(const QString& control, int document);
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 
 private:

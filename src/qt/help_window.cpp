@@ -71,6 +71,8 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
     connect(contents_, &QTreeWidget::currentItemChanged, this, &HelpWindow::Read);
     // Also the page that is chosen already, to come back to its beginning.
     connect(contents_, &QTreeWidget::itemClicked, this, &HelpWindow::Read);
+    // There from the start: coming later it would cover what a search has just found.
+    statusBar()->setSizeGripEnabled(false);
     resize(920, 680);
 }
 
@@ -139,7 +141,7 @@ void HelpWindow::FindNext() {
     text_->moveCursor(QTextCursor::Start);
     if (text_->find(word)) return;
     text_->setTextCursor(place);
-    statusBar()->showMessage(QString("The help doesn't have \"%1\"").arg(word));
+    statusBar()->showMessage(QString("\"%1\" was not found in the help").arg(word));
 }
 
 void RunHelpCommand(const std::string& file, int command) {

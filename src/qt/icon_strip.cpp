@@ -32,4 +32,17 @@ QPixmap CellPixmap(int cell, int pixels, qreal devicePixelRatio) {
     return pixmap;
 }
 
+QPixmap CellOnPaper(int cell, int pixels, qreal devicePixelRatio) {
+    QPixmap paper(QSize(pixels, pixels) * devicePixelRatio);
+    paper.setDevicePixelRatio(devicePixelRatio);
+    paper.fill(Qt::transparent);
+    QPainter painter(&paper);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(PaperColor);
+    painter.drawRoundedRect(QRectF(0, 0, pixels, pixels), 3, 3);
+    painter.drawPixmap(0, 0, CellPixmap(cell, pixels, devicePixelRatio));
+    return paper;
+}
+
 }  // namespace quorvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QColor>
 #include <QPixmap>
 
 namespace quorvane {
@@ -9,5 +10,10 @@ namespace quorvane {
 /// screen that it is for. Cells are drawn from their SVG files once for each size; one without a
 /// file gives a null pixmap.
 QPixmap CellPixmap(int cell, int pixels, qreal devicePixelRatio);
+
+/// What the cells are drawn on: light, since their lines are dark.
+constexpr QColor PaperColor(0xFB, 0xFB, 0xF8);
+/// The same on paper, which shows on windows of any colour.
+QPixmap CellOnPaper(int cell, int pixels, qreal devicePixelRatio);
 
 }  // namespace quorvane

@@ -4,6 +4,7 @@
 #include <QPainter>
 #include <QPushButton>
 
+#include "diagram/box_table.h"
 #include "diagram/page_view.h"
 #include "qt/dispatch.h"
 #include "qt/icon_strip.h"
@@ -11,6 +12,40 @@
 #include "qt/shape_painter.h"
 
 namespace quorvane {
+
+namespace {
+
+/// A box at small scale. Its edges may lie between pixels.
+class PageBox : public QWidget {
+public:
+    PageBox(int number, const BoxControl& box, QWidget* dialog)
+        : QWidget(dialog),
+          place_(box.Left / UnitsPerPixel, box.Top / UnitsPerPixel, box.Width / UnitsPerPixel,
+                 box.Height / UnitsPerPixel),
+          picture_(box.Picture) {
+        setObjectName(QString("box(%1)").arg(number));
+        setAccessibleName(ToScreen(BoxName(number) + " " + BoxOrFree(number).BoxType));
+        setGeometry(place_.toAlignedRect().adjusted(0, 0, 1, 1));
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setPen(QColor(0x3A, 0x42, 0x4C));
+        painter.setBrush(Qt::white);
+        const auto place = place_.translated(-pos());
+        painter.drawRoundedRect(place, 2, 2);
+        painter.drawPixmap(place, CellPixmap(picture_, 32, devicePixelRatioF()), QRectF());
+    }
+
+private:
+    QRectF place_;
+    int picture_;
+};
+
+}  // namespace
 
 PageViewDialog::PageViewDialog(QWidget* parent) : QDialog(parent) {
     setObjectName("frmPageView");
@@ -21,6 +56,10 @@ PageViewDialog::PageViewDialog(QWidget* parent) : QDialog(parent) {
     constexpr double frameWidth = 120, frameHeight = 420;
     setFixedSize(ToPixels(frmPageView.Width - frameWidth),
                  ToPixels(frmPageView.Height - frameHeight));
+    const auto& boxes = frmPageView.box;
+    for (int i = 0; i < boxes.Size(); ++i) {
+        if (boxes.Has(i) && boxes[i].Visible) new PageBox(i, boxes[i], this);
+    }
     auto* panel = new QWidget(this);
     panel->setObjectName("pnl");
     panel->setAutoFillBackground(true);
@@ -40,19 +79,6 @@ void PageViewDialog::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
     PaintShapes(painter, frmPageView.Surface);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const auto& boxes = frmPageView.box;
-    for (int i = 0; i < boxes.Size(); ++i) {
-        if (!boxes.Has(i) || !boxes[i].Visible) continue;
-        const auto& box = boxes[i];
-        const QRectF place(box.Left / UnitsPerPixel, box.Top / UnitsPerPixel,
-                           box.Width / UnitsPerPixel, box.Height / UnitsPerPixel);
-        painter.setPen(QColor(0x3A, 0x42, 0x4C));
-        painter.setBrush(Qt::white);
-        painter.drawRoundedRect(place, 2, 2);
-        painter.drawPixmap(place, CellPixmap(box.Picture, 32, devicePixelRatioF()), QRectF());
-    }
 }
 
 void PageViewDialog::reject() {

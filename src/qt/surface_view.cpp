@@ -160,7 +160,9 @@ void SurfaceView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Enter:
         case Qt::Key_Space: {
             const auto at = MovePointer({});
+            // What the toolbox has fired is taken up by the pointer over the sheet.
             Dispatch([&] {
+                main_MouseMove(Sheet(), 0, 0, ToUnits(at.x()), ToUnits(at.y()));
                 main_MouseDown(Sheet(), LeftButton, 0, ToUnits(at.x()), ToUnits(at.y()));
                 main_MouseUp(Sheet(), LeftButton, 0, ToUnits(at.x()), ToUnits(at.y()));
             });

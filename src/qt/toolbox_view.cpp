@@ -41,13 +41,15 @@ void ToolboxView::Refresh() {
     if (size() != inner && inner.isValid()) resize(inner);
     following_ = false;
     RefreshButtons();
-    if (isVisible() == form.Form.Visible) return;
+    // A task bar gives an entry of its own to what comes up before the window that it belongs to.
+    const bool shows = form.Form.Visible && parentWidget()->isVisible();
+    if (isVisible() == shows) return;
     if (!placed_) {
         const auto frame = parentWidget()->geometry();
         move(frame.right() - FirstPlace.x() - width(), frame.top() + FirstPlace.y());
         placed_ = true;
     }
-    setVisible(form.Form.Visible);
+    setVisible(shows);
 }
 
 void ToolboxView::RefreshButtons() {
@@ -80,7 +82,7 @@ void ToolboxView::RefreshButtons() {
         if (button->property("picture") != record.Picture || button->iconSize() != face) {
             button->setProperty("picture", record.Picture);
             button->setIconSize(face);
-            button->setIcon(CellPixmap(record.Picture, side, devicePixelRatioF()));
+            button->setIcon(CellOnPaper(record.Picture, side, devicePixelRatioF()));
         }
     }
 }

@@ -184,6 +184,8 @@ void WorksheetView::RefreshBoxes() {
     const auto& controls = Sheet().box;
     const auto needed = static_cast<std::size_t>(controls.Size());
     if (boxes_.size() < needed) boxes_.resize(needed, nullptr);
+    // Tab goes from the sheet to the boxes by their numbers, and then to the bars.
+    QWidget* before = surface_;
     for (int i = 1; i < static_cast<int>(boxes_.size()); ++i) {
         auto*& view = boxes_[static_cast<std::size_t>(i)];
         if (!controls.Has(i)) {
@@ -192,8 +194,12 @@ void WorksheetView::RefreshBoxes() {
             view = nullptr;
             continue;
         }
-        if (!view) view = new BoxView(document_, i, surface_);
+        if (!view) {
+            view = new BoxView(document_, i, surface_);
+            setTabOrder(before, view);
+        }
         view->Refresh(controls[i]);
+        before = view;
     }
 }
 

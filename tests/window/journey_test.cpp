@@ -6,8 +6,10 @@
 #include <QMdiSubWindow>
 #include <QTest>
 #include <QTextBrowser>
+#include <QToolButton>
 #include <QTreeWidget>
 
+#include "qt/dispatch.h"
 #include "window/window_fixture.h"
 
 namespace quorvane::testing {
@@ -84,11 +86,19 @@ private slots:
         WriteAll("quorvane.ini", "[Prefrences]\r\n");
         WriteAll("mine.tlb", "Cos\r\nArrow\r\n\r\n");
         program->Start();
+        program->Frame().hide();
+        RefreshScreen();
+        QCOMPARE(Tools(), "");  // A task bar would give it an entry of its own
+        program->Frame().show();
         QCOMPARE(Tools(),
                  "Arrow,Keyboard Input,Vector Make Input,Numerical,Polynomial,Comment,"
                  "Screen Output,Plot Output");
         program->Choose("mnuFileNew");
-        PlaceTool(7, {60, 150});
+        QTest::keyClick(Tool(7), Qt::Key_Space);
+        QCursor::setPos(program->Surface()->mapToGlobal(QPoint(60, 150)));
+        QTest::keyClick(program->Surface(), Qt::Key_Space);
+        const auto face = static_cast<QToolButton*>(Tool(7))->icon().pixmap(24).toImage();
+        QVERIFY2(face.pixelColor(4, 12).lightness() > 200, "a face shows on a dark window, too");
         program->Answers = {PickFile(program->File("mine.tlb"))};
         program->Choose("mnuOptionsCurrentToolbox");
         QCOMPARE(program->Entry("mnuOptionsCurrentToolbox")->text(), "Current Toolbox: mine.tlb");
@@ -203,6 +213,22 @@ private slots:
         QTest::keyClicks(field, "caps lock");
         QTest::keyClick(field, Qt::Key_Return);
         QVERIFY(text().startsWith("Quorvane"));
+    }
+
+    void a_search_in_the_help_shows_what_it_finds() {
+        std::filesystem::copy(QUORVANE_SOURCE_DIR "/resources/help/QUORVANE.HLP", "QUORVANE.HLP");
+        WriteAll("quorvane.ini", "[Prefrences]\r\n");
+        program->Start();
+        program->Choose("mnuHelpSearch");
+        auto* text = program->Frame().findChild<QTextBrowser*>("helpText");
+        auto* search = program->Frame().findChild<QLineEdit*>("helpSearch");
+        for (const char* word : {"Shift+Enter", "surprises"}) {
+            search->setText(word);
+            QTest::keyClick(search, Qt::Key_Return);
+            QTest::qWait(0);
+            QCOMPARE(text->textCursor().selectedText(), word);
+            QVERIFY(text->viewport()->rect().contains(text->cursorRect()));
+        }
     }
 
     void the_tour_takes_eleven_clicks() {

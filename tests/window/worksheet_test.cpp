@@ -76,6 +76,9 @@ private slots:
         QCOMPARE(surface->cursor().shape(), Qt::ForbiddenCursor);
         QCOMPARE(program->Box(1)->cursor().shape(), Qt::ArrowCursor);
         QTest::mouseClick(program->Box(1), Qt::LeftButton);
+        QTest::mouseDClick(program->Box(1), Qt::LeftButton);
+        QTest::mouseRelease(program->Box(1), Qt::LeftButton);
+        QCOMPARE(EditMode, 4);
         QTest::mouseClick(program->Box(2), Qt::LeftButton);
         QCOMPARE(surface->cursor().shape(), Qt::ArrowCursor);
         program->Join(2, 3);
@@ -110,9 +113,8 @@ private slots:
         QCOMPARE(program->Box(2)->pos(), surface->rect().center() + QPoint(16, 60));
 
         menu(Qt::Key_N, {Qt::Key_A});
-        for (int i = 0; i < 10 && QApplication::focusWidget() != program->Box(1); ++i) {
-            program->Type(Qt::Key_Tab);
-        }
+        press({Qt::Key_Tab});
+        QCOMPARE(QApplication::focusWidget(), program->Box(1));
         press({Qt::Key_Return, Qt::Key_Tab});
         QCOMPARE(QApplication::focusWidget(), program->Box(2));
         press({Qt::Key_Return});
@@ -333,6 +335,7 @@ private slots:
                   inked.right() + 1 - expected.right(), inked.bottom() + 1 - expected.bottom()}) {
                 QVERIFY2(qAbs(off) < 2, qPrintable(QString::number(off)));
             }
+            QCOMPARE(dialog.findChild<QWidget*>("box(2)")->accessibleName(), "box2 Cos");
             Play("cmdOK")(dialog);
         }};
         program->Choose("mnuPageView");
