@@ -51,7 +51,7 @@ const std::vector<OptionList> optionLists = {
         {3, "Imaginary unit (j)", "", "sqrt(-1)", nullptr, ""},
         {4, "Number of floating point operations", "", "flops", nullptr, ""},
         {5, "Arbiturary constant:", "", "{field}", nullptr, ""}},
-     {.What = ListField::Kind::Text, .Control = "txtConst", .Beside = 5}},
+     {.What = ListField::Kind::Text, .Control = "txtConst", .Beside = 5, .Number = true}},
 
     {"frmSpecMat", "Create a Special Matrix", "Select the type of matrix:", "1", {
         {0, "Companion matrix", "Companion matrix", "Compan", nullptr, ""},

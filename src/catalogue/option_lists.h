@@ -28,6 +28,7 @@ struct ListField {
     std::string_view Default = "";
     int Beside = NoIndex;    ///< Index of the option that the field belongs to
     bool SkipEmpty = false;  ///< An empty field writes no text
+    bool Number = false;     ///< Takes a number alone
 };
 
 /// A dialog in which one of a list is picked. All of them are alike and know nothing of boxes: the

@@ -161,7 +161,7 @@ void frmPause_cmdOK_Click() { frmPause.Form.Visible = false; }
 Form frmPause_Table() {
     return {.Name = "frmPause",
             .State = &frmPause.Form,
-            .Controls = {{"lblSecs", &frmPause.lblSecs, frmPause_lblSecs_Change},
+            .Controls = {{"lblSecs", &frmPause.lblSecs, frmPause_lblSecs_Change, TakesNumber},
                          {"spn", &frmPause.spn, frmPause_spn_Change},
                          {"chkNoNumber", &frmPause.chkNoNumber, frmPause_chkNoNumber_Click},
                          {"cmdOK", &frmPause.cmdOK, frmPause_cmdOK_Click}}};

@@ -115,8 +115,8 @@ Form frmFunc_Table() {
               .Controls = {{"txtoutput", &record.txtoutput},
                            {"txtFunc", &record.txtFunc},
                            {"chkcell", &record.chkcell},
-                           {"txtRow", &record.txtRow, frmFunc_txtRow_Change},
-                           {"txtCol", &record.txtCol, frmFunc_txtCol_Change},
+                           {"txtRow", &record.txtRow, frmFunc_txtRow_Change, TakesNumber},
+                           {"txtCol", &record.txtCol, frmFunc_txtCol_Change, TakesNumber},
                            {"cmdMatlab", &record.cmdMatlab, frmFunc_cmdMatlab_Click},
                            {"cmdOK", &record.cmdOK, frmFunc_cmdOK_Click}}};
     for (int i = 1; i <= 3; ++i) {

@@ -41,6 +41,7 @@ void frmMatrix_grid_KeyDown(int keyCode, std::string_view character) {
     switch (keyCode) {
         case 8:
         case 46:
+            while (!cell.empty() && !BeginsCharacter(cell.back())) cell.pop_back();
             if (!cell.empty()) cell.pop_back();
             break;
         case 9:

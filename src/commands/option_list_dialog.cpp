@@ -126,7 +126,8 @@ Form OptionList_Table(const OptionList& list) {
     }
     const std::string field(list.Field.Control);
     if (list.Field.What == ListField::Kind::Text) {
-        form.Controls.push_back({field, &frmOptionList.Field, frmOptionList_Field_Change});
+        form.Controls.push_back(
+            {field, &frmOptionList.Field, frmOptionList_Field_Change, list.Field.Number});
     } else if (list.Field.What == ListField::Kind::Check) {
         form.Controls.push_back({field, &frmOptionList.chkElement});
     }

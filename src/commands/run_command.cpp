@@ -86,12 +86,16 @@ void RunBoxCommand(Worksheet& sheet, std::string_view control) {
     if (!type.empty()) box.BoxType = type;
     if (command->BoxText) box.BoxText = command->BoxText;
     Lock(*command, box);
+    bool picked = true;
     if (const auto* list = FindOptionList(command->Dialog)) {
-        if (!RunOptionList(*list, box)) return;
+        picked = RunOptionList(*list, box);
     } else if (questions.Complete) {
         questions.Complete(number);
     }
-    SetBoxPicture(sheet, number, IconKey(*command, box));
+    if (!command->Dialog.empty()) {
+        Attempt([&] { desktop->FocusWorksheet(DocumentNumber(sheet)); });
+    }
+    if (picked) SetBoxPicture(sheet, number, IconKey(*command, box));
 }
 
 void cmdEventFire_Click(Worksheet& sheet) {

@@ -114,12 +114,14 @@ std::string RowName(const char* control, int index) {
 void OpenBoxInfo(Worksheet& sheet, int number) {
     if (Boxes[number].BoxType == "Comment") {
         EditComment(number);
+        desktop->FocusWorksheet(DocumentNumber(sheet));
         return;
     }
     if (!frmInfo.Form.Loaded) frmInfo = {};
     frmInfo.Form.Loaded = true;
     ShowBox(number);
     desktop->ShowModal("frmInfo");
+    desktop->FocusWorksheet(DocumentNumber(sheet));
     frmInfo.lblfunc.Caption.clear();
     if (frmInfo.lblEmpty.Caption == "Cancel") return;
     ChangeBox(number);

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "diagram/comment_form.h"
 
+#include "platform/numbers.h"
+
 namespace quorvane {
 
 CommentForm frmComment;
@@ -8,8 +10,6 @@ CommentForm frmComment;
 namespace {
 
 constexpr int LongestComment = 100;
-
-bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
 }  // namespace
 

@@ -57,6 +57,7 @@ void mnuPageView_Click(Worksheet& sheet) {
     AddBoxes(scaleX, scaleY);
     AddArrows();
     desktop->ShowModal("frmPageView");
+    desktop->FocusWorksheet(DocumentNumber(sheet));
 }
 
 void frmPageView_cmdOK_Click() { frmPageView = {}; }

@@ -62,6 +62,7 @@ bool WriteKeyboardInput(Run& run, int box, int /*slot*/) {
 bool WriteMatrixInput(Run& run, int box, int /*slot*/) {
     frmMatrix_Load();
     desktop->ShowModal("frmMatrix");
+    desktop->FocusWorksheet(run.Document);
     WriteLine(run, Assigned(box) + " " + frmMatrix.mat.Text + " ]; ");
     frmMatrix = {};
     return true;

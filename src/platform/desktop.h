@@ -43,6 +43,9 @@ struct Desktop {
     /// Shows the form of this name and returns when it has hidden itself. The form's record holds
     /// what the user did.
     virtual void ShowModal(std::string_view form) = 0;
+    /// Gives the focus to the worksheet of this number, whatever had it before. A worksheet that
+    /// isn't there, or that a dialog blocks, is passed over.
+    virtual void FocusWorksheet(int document) = 0;
 
     /// Pops up the menu of this control at the mouse pointer. Its commands work for this document,
     /// whichever worksheet is active.

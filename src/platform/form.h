@@ -22,7 +22,11 @@ struct ControlRow {
     std::string Name;
     ControlRecord Record;
     std::function<void()> Event = nullptr;
+    /// TakesNumber for a text box of a number: its event waits while only the beginning of a number
+    /// is typed, until it is one or can't become one, or the user goes on to another control.
+    bool Number = false;
 };
+constexpr bool TakesNumber = true;
 
 /// A form as the screen sees it: its state and its controls. The screen copies what the user did
 /// into a record, calls the handler, and shows the records again.

@@ -25,25 +25,28 @@ std::size_t Digits(std::string_view text) {
     return n;
 }
 
-bool HasNumberShape(std::string_view text) {
-    if (!text.empty() && (text[0] == '+' || text[0] == '-')) text.remove_prefix(1);
-    const auto whole = Digits(text);
-    text.remove_prefix(whole);
-    std::size_t fraction = 0;
+enum class NumberShape { Other, Beginning, Number };
+
+NumberShape ShapeOf(std::string_view text) {
+    using enum NumberShape;
+    if (text.empty()) return Other;
+    if (text[0] == '+' || text[0] == '-') text.remove_prefix(1);
+    auto digits = Digits(text);
+    text.remove_prefix(digits);
     if (!text.empty() && text[0] == '.') {
         text.remove_prefix(1);
-        fraction = Digits(text);
+        const auto fraction = Digits(text);
         text.remove_prefix(fraction);
+        digits += fraction;
     }
-    if (whole + fraction == 0) return false;
-    if (!text.empty() && (text[0] == 'e' || text[0] == 'E')) {
+    if (digits > 0 && !text.empty() && (text[0] == 'e' || text[0] == 'E')) {
         text.remove_prefix(1);
         if (!text.empty() && (text[0] == '+' || text[0] == '-')) text.remove_prefix(1);
-        const auto exponent = Digits(text);
-        if (exponent == 0) return false;
-        text.remove_prefix(exponent);
+        digits = Digits(text);
+        text.remove_prefix(digits);
     }
-    return text.empty();
+    if (!text.empty()) return Other;
+    return digits > 0 ? Number : Beginning;
 }
 
 template <class Integer>
@@ -66,11 +69,14 @@ Integer TextToInteger(std::string_view text) {
 
 }  // namespace
 
-bool IsNumeric(std::string_view text) { return HasNumberShape(Trimmed(text)); }
+bool IsNumeric(std::string_view text) { return ShapeOf(Trimmed(text)) == NumberShape::Number; }
+bool BeginsNumber(std::string_view text) {
+    return ShapeOf(Trimmed(text)) == NumberShape::Beginning;
+}
 
 double TextToNumber(std::string_view text) {
     text = Trimmed(text);
-    if (!HasNumberShape(text)) throw RuntimeError(13);
+    if (ShapeOf(text) != NumberShape::Number) throw RuntimeError(13);
     if (text[0] == '+') text.remove_prefix(1);
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
@@ -99,6 +105,8 @@ std::string NumberText(std::int64_t number) {
     AppendNumber(text, number);
     return text;
 }
+
+bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
 
 std::string LowerCase(std::string_view text) {
     std::string lower(text);

@@ -11,6 +11,9 @@ namespace quorvane {
 /// with blanks around it allowed. What is numeric is what TextToNumber takes.
 bool IsNumeric(std::string_view text);
 
+/// True for what is no number yet and becomes one with a digit more ("-", ".", "1e", "-.5e+").
+bool BeginsNumber(std::string_view text);
+
 /// The value of a numeric text; error 13 for any other text, error 6 for one beyond double.
 double TextToNumber(std::string_view text);
 
@@ -25,6 +28,9 @@ std::int32_t TextToInt32(std::string_view text);
 /// Appends the decimal digits of a number, with "-" in front of a negative one and no blank.
 void AppendNumber(std::string& text, std::int64_t number);
 std::string NumberText(std::int64_t number);
+
+/// False for the bytes of a UTF-8 character behind its first one.
+bool BeginsCharacter(char byte);
 
 /// The letters A to Z in lower or upper case; all other bytes stay, so that UTF-8 survives.
 std::string LowerCase(std::string_view text);

@@ -29,6 +29,7 @@ struct QuietDesktop : Desktop {
     }
     std::int32_t ColorDialog(std::int32_t) override { throw RuntimeError(32755); }
     void ShowModal(std::string_view) override {}
+    void FocusWorksheet(int) override {}
     void PopupMenu(std::string_view, int) override {}
     void ArrangeWindows(int) override {}
     void SetClipboardText(const std::string&) override {}

@@ -21,6 +21,7 @@
 #include <QThread>
 #include <QTimer>
 #include <QWindow>
+#include <utility>
 
 #include "diagram/preferences.h"
 #include "platform/numbers.h"
@@ -31,6 +32,7 @@
 #include "qt/option_list_layout.h"
 #include "qt/screen_units.h"
 #include "qt/shape_painter.h"
+#include "qt/wrapped_text.h"
 #include "shell/help.h"
 
 namespace quorvane {
@@ -43,12 +45,24 @@ constexpr int PreviewPixels = 64;
 
 // Show: a record on its control.
 
+bool HasGreatestWidth(const QWidget* control) { return control->maximumWidth() < QWIDGETSIZE_MAX; }
+
+/// What the control leaves out of a long text stands in its tool tip.
+void TellWhole(QWidget* control, const QString& shown, const QString& whole) {
+    control->setAccessibleName(whole);
+    control->setToolTip(shown == whole ? QString() : "<p>" + whole.toHtmlEscaped() + "</p>");
+}
+
 void Show(const Label& record, QWidget* control) {
-    const auto text = ToScreen(record.Caption).replace("\r\n", "\n");
+    const auto whole = ToScreen(record.Caption).replace("\r\n", "\n");
     auto* label = qobject_cast<QLabel*>(control);
+    const auto text = label && HasGreatestWidth(label)
+                          ? WrappedText(whole, label->font(), label->maximumWidth())
+                          : whole;
     if (label && label->text() != text) {
         label->setTextFormat(Qt::PlainText);
         label->setText(text);
+        if (HasGreatestWidth(label)) TellWhole(label, text, whole);
         // A text that scrolls begins at its beginning.
         auto* area = qobject_cast<QScrollArea*>(label->parentWidget()->parentWidget());
         if (area) area->ensureVisible(0, 0, 0, 0);
@@ -56,11 +70,21 @@ void Show(const Label& record, QWidget* control) {
     control->setVisible(record.Visible);
 }
 
+/// The user goes on typing where the caret stands. What comes into a field that the user has
+/// emptied is selected, so that the next key takes its place.
+void ShowText(QLineEdit* line, const QString& text) {
+    if (line->text() == text) return;
+    const bool isEmptied = line->text().isEmpty() && line->hasFocus();
+    const bool isAtEnd = line->cursorPosition() == line->text().size();
+    const int caret = line->cursorPosition();
+    line->setText(text);
+    line->setCursorPosition(isAtEnd ? text.size() : caret);
+    if (isEmptied) line->selectAll();
+}
+
 void Show(const TextBox& record, QWidget* control) {
     const auto text = ToScreen(record.Text);
-    if (auto* line = qobject_cast<QLineEdit*>(control); line && line->text() != text) {
-        line->setText(text);
-    }
+    if (auto* line = qobject_cast<QLineEdit*>(control)) ShowText(line, text);
     control->setVisible(record.Visible);
     control->setEnabled(record.Enabled);
 }
@@ -78,10 +102,22 @@ void Show(const CheckBox& record, QWidget* control) {
     control->setEnabled(record.Enabled);
 }
 
+/// A caption has no key of its own: each "&" in it shows.
+void ShowCaption(const QString& caption, QRadioButton* option) {
+    auto text = caption;
+    if (HasGreatestWidth(option)) {
+        constexpr int indicator = 28;
+        text = option->fontMetrics().elidedText(caption, Qt::ElideMiddle,
+                                                option->maximumWidth() - indicator);
+        TellWhole(option, text, caption);
+    }
+    option->setText(text.replace("&", "&&"));
+}
+
 void Show(const OptionButton& record, QWidget* control) {
     if (auto* option = qobject_cast<QRadioButton*>(control)) {
         if (record.Value) option->setChecked(true);
-        if (!record.Caption.empty()) option->setText(ToScreen(record.Caption));
+        if (!record.Caption.empty()) ShowCaption(ToScreen(record.Caption), option);
     }
     control->setEnabled(record.Enabled);
 }
@@ -92,6 +128,18 @@ void ShowList(const ComboBox& record, QListWidget* list) {
     list->addItem(ToScreen(record.Text));
     list->item(0)->setFlags(Qt::ItemIsEnabled);
     for (const auto& item : record.List) list->addItem(ToScreen(item));
+}
+
+/// An entry that is chosen goes into an editable box's text, where it stands already while the user
+/// types it.
+void ShowChoice(QComboBox* combo, const QString& text) {
+    const int index = combo->findText(text);
+    auto* line = combo->lineEdit();
+    const int caret = line ? line->cursorPosition() : 0;
+    const bool isTyped = line && line->text() == text;
+    if (combo->currentIndex() != index) combo->setCurrentIndex(index);
+    if (line && line->text() != text) line->setText(text);
+    if (isTyped) line->setCursorPosition(caret);
 }
 
 void Show(const ComboBox& record, QWidget* control) {
@@ -106,9 +154,7 @@ void Show(const ComboBox& record, QWidget* control) {
         combo->clear();
         combo->addItems(items);
     }
-    const auto text = ToScreen(record.Text);
-    combo->setCurrentIndex(combo->findText(text));
-    if (combo->isEditable() && combo->currentText() != text) combo->setEditText(text);
+    ShowChoice(combo, ToScreen(record.Text));
     combo->setEnabled(record.Enabled);
     // Where there is nothing to choose there is nothing to show, as with drives on this platform.
     combo->setVisible(combo->isEditable() || !record.List.empty());
@@ -125,7 +171,9 @@ void Show(const ListBox& record, QWidget* control) {
 
 void Show(const PictureBox& record, QWidget* control) {
     if (auto* label = qobject_cast<QLabel*>(control)) {
-        label->setPixmap(CellPixmap(record.Picture, PreviewPixels, control->devicePixelRatioF()));
+        const auto ratio = control->devicePixelRatioF();
+        label->setPixmap(record.Picture > 0 ? CellOnPaper(record.Picture, PreviewPixels, ratio)
+                                            : QPixmap());
     }
 }
 
@@ -236,18 +284,40 @@ FormView::FormView(const Form& form, QWidget* parent) : QDialog(parent), form_(f
 
 FormView::~FormView() { openForms.removeOne(this); }
 
+/// The event of a field in which a number was being typed runs before that of the control to which
+/// the user has gone on.
+void FormView::Run(const ControlRow& row) {
+    Dispatch(
+        [&] {
+            TakeAll(*this, form_);
+            const auto* waiting = std::exchange(waiting_, nullptr);
+            if (waiting && waiting != &row) waiting->Event();
+            if (row.Event) row.Event();
+        },
+        this);
+}
+
+void FormView::ConnectText(const ControlRow& row, QLineEdit* line) {
+    connect(line, &QLineEdit::textEdited, this, [this, &row](const QString& text) {
+        if (row.Number && BeginsNumber(ToCore(text))) {
+            TakeAll(*this, form_);
+            waiting_ = &row;
+        } else {
+            Run(row);
+        }
+    });
+    connect(line, &QLineEdit::editingFinished, this, [this] {
+        if (waiting_) Run(*waiting_);
+    });
+}
+
 void FormView::Connect(const ControlRow& row, QWidget* control) {
-    const auto run = [this, &row] {
-        Dispatch(
-            [&] {
-                TakeAll(*this, form_);
-                if (row.Event) row.Event();
-            },
-            this);
-    };
+    const auto run = [this, &row] { Run(row); };
     if (auto* line = qobject_cast<QLineEdit*>(control)) {
-        connect(line, &QLineEdit::textEdited, this, run);
+        ConnectText(row, line);
     } else if (auto* combo = qobject_cast<QComboBox*>(control)) {
+        if (combo->isEditable()) combo->setCompleter(nullptr);
+        combo->setInsertPolicy(QComboBox::NoInsert);
         connect(combo, &QComboBox::currentTextChanged, this, run);
     } else if (auto* list = qobject_cast<QListWidget*>(control)) {
         connect(list, &QListWidget::itemActivated, this, [list, run](QListWidgetItem* item) {
@@ -258,7 +328,9 @@ void FormView::Connect(const ControlRow& row, QWidget* control) {
         ConnectList(view, run);
     } else if (auto* button = qobject_cast<QAbstractButton*>(control)) {
         connect(button, &QAbstractButton::clicked, this, run);
+        if (qobject_cast<QRadioButton*>(button)) button->installEventFilter(this);
     } else if (auto* slider = qobject_cast<QAbstractSlider*>(control)) {
+        slider->setFocusPolicy(Qt::TabFocus);
         connect(slider, &QAbstractSlider::valueChanged, this, run);
     }
 }
@@ -324,8 +396,37 @@ void FormView::paintEvent(QPaintEvent* event) {
     PaintShapes(painter, line);
 }
 
+/// The arrow keys choose among option buttons also where none is on yet.
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+    const bool isKey = event->type() == QEvent::KeyPress;
+    const int key = isKey ? static_cast<QKeyEvent*>(event)->key() : 0;
+    if (!qobject_cast<QRadioButton*>(watched) || key < Qt::Key_Left || key > Qt::Key_Down) {
+        return QDialog::eventFilter(watched, event);
+    }
+    watched->event(event);
+    auto* next = qobject_cast<QRadioButton*>(focusWidget());
+    if (next && next != watched && !next->isChecked()) next->click();
+    return true;
+}
+
+/// The first control gets the focus; its text is selected, so that what is typed takes its place.
+void FormView::FocusFirst() {
+    const auto takes = [this](const QWidget* control) {
+        return control->isVisibleTo(this) && control->isEnabled() &&
+               (control->focusPolicy() & Qt::TabFocus) &&
+               !qobject_cast<const QAbstractSlider*>(control);
+    };
+    auto* first = nextInFocusChain();
+    while (first != this && !takes(first)) first = first->nextInFocusChain();
+    first->setFocus(Qt::TabFocusReason);
+    auto* combo = qobject_cast<QComboBox*>(first);
+    auto* line = combo ? combo->lineEdit() : qobject_cast<QLineEdit*>(first);
+    if (line) line->selectAll();
+}
+
 void FormView::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
+    if (!focusWidget()) FocusFirst();
     if (form_.Activated) QMetaObject::invokeMethod(this, &FormView::Activate, Qt::QueuedConnection);
 }
 

@@ -5,6 +5,7 @@
 
 #include "platform/form.h"
 
+class QLineEdit;
 class QListView;
 
 namespace quorvane {
@@ -23,14 +24,19 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void Run(const ControlRow& row);
+    void FocusFirst();
+    void ConnectText(const ControlRow& row, QLineEdit* line);
     void Connect(const ControlRow& row, QWidget* control);
     void ConnectList(QListView* view, const std::function<void()>& run);
     void RunAboutTimer();
     void Activate();
 
     const Form& form_;
+    const ControlRow* waiting_ = nullptr;  ///< The field in which a number is being typed
 };
 
 /// Shows the records on every form that is on the screen.

@@ -62,11 +62,13 @@ MatrixDialog::MatrixDialog(QWidget* parent) : QDialog(parent) {
     grid_->setAccessibleName("Elements of the matrix");
     grid_->setEditTriggers(QAbstractItemView::NoEditTriggers);
     grid_->setSelectionMode(QAbstractItemView::SingleSelection);
+    // Tab is a key of the grid; Shift and Tab lead on to OK.
+    grid_->setTabKeyNavigation(false);
+    grid_->setToolTip("Shift+Tab leads to OK");
     grid_->horizontalHeader()->setDefaultSectionSize(80);
     grid_->installEventFilter(this);
     auto* ok = new QPushButton("OK");
     ok->setObjectName("cmdOK");
-    ok->setAutoDefault(false);
     auto* rows = new QVBoxLayout(this);
     rows->addWidget(grid_);
     rows->addWidget(ok, 0, Qt::AlignRight);
@@ -104,21 +106,32 @@ void MatrixDialog::Refresh() {
         }
     }
     grid_->setCurrentCell(grid.Row - 1, grid.Col - 1);
+    // A view turns it off for cells that it can't edit by itself.
+    grid_->setAttribute(Qt::WA_InputMethodEnabled);
 }
 
 bool MatrixDialog::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == grid_ && event->type() == QEvent::InputMethod) {
+        const auto text = static_cast<QInputMethodEvent*>(event)->commitString();
+        if (!text.isEmpty()) TakeKey(Qt::Key_unknown, text);
+        return true;
+    }
     if (watched != grid_ || event->type() != QEvent::KeyPress) {
         return QDialog::eventFilter(watched, event);
     }
+    // Both together are AltGr, which makes characters.
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->modifiers() & (Qt::ControlModifier | Qt::AltModifier)) return false;
+    const auto held = key->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (held == Qt::ControlModifier || held == Qt::AltModifier) return false;
     return TakeKey(key->key(), key->text());
 }
 
-/// True when the key was one for the grid. Shift and Tab leave it, so that OK is within reach.
+/// True when the key was one for the grid.
 bool MatrixDialog::TakeKey(int key, const QString& text) {
     const int code = CodeOf(key);
-    if (code == Other && (text.isEmpty() || !text.at(0).isPrint())) return false;
+    if (code == Other && (text.isEmpty() || !QChar::isPrint(text.toUcs4().constFirst()))) {
+        return false;
+    }
     Dispatch(
         [&] {
             const int column = frmMatrix.grid.Col;

@@ -1,11 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "qt/qt_desktop.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QClipboard>
 #include <QColorDialog>
+#include <QDialogButtonBox>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLayout>
 #include <QMessageBox>
 #include <QSettings>
 #include <QStandardPaths>
@@ -25,6 +28,7 @@
 #include "qt/page_view_dialog.h"
 #include "qt/screen_units.h"
 #include "qt/shape_painter.h"
+#include "qt/wrapped_text.h"
 #include "shell/forms.h"
 
 namespace quorvane {
@@ -51,17 +55,31 @@ constexpr IconRowQt icons[] = {
 
 struct ButtonsRowQt {
     Buttons Choice;
-    QMessageBox::StandardButtons Shown;
-    QMessageBox::StandardButton Escape;  ///< What Escape answers
+    QList<QMessageBox::StandardButton> Shown;  ///< From left to right; the first is the default
+    QMessageBox::StandardButton Escape;        ///< What Escape answers
 };
 const ButtonsRowQt buttonSets[] = {
-    {Buttons::Ok, QMessageBox::Ok, QMessageBox::Ok},
-    {Buttons::YesNo, QMessageBox::Yes | QMessageBox::No, QMessageBox::No},
-    {Buttons::YesNoCancel, QMessageBox::Yes | QMessageBox::No | QMessageBox::Cancel,
+    {Buttons::Ok, {QMessageBox::Ok}, QMessageBox::Ok},
+    {Buttons::YesNo, {QMessageBox::Yes, QMessageBox::No}, QMessageBox::No},
+    {Buttons::YesNoCancel,
+     {QMessageBox::Yes, QMessageBox::No, QMessageBox::Cancel},
      QMessageBox::Cancel},
-    {Buttons::AbortRetryIgnore, QMessageBox::Abort | QMessageBox::Retry | QMessageBox::Ignore,
+    {Buttons::AbortRetryIgnore,
+     {QMessageBox::Abort, QMessageBox::Retry, QMessageBox::Ignore},
      QMessageBox::Abort},
 };
+
+/// The desktop's own order of buttons, which goes by what they mean, gives way to that of the row.
+void AddButtons(QMessageBox& box, const ButtonsRowQt& row) {
+    for (const auto button : row.Shown) box.addButton(button);
+    auto* buttons = box.findChild<QDialogButtonBox*>()->layout();
+    for (const auto button : row.Shown) {
+        buttons->removeWidget(box.button(button));
+        buttons->addWidget(box.button(button));
+    }
+    box.setDefaultButton(row.Shown.constFirst());
+    box.setEscapeButton(row.Escape);
+}
 
 Answer AnswerOf(int button) {
     switch (button) {
@@ -152,9 +170,7 @@ Answer QtDesktop::MsgBox(const Message& message) {
         if (row.Picture == message.Picture) box.setIcon(row.Shown);
     }
     for (const auto& row : buttonSets) {
-        if (row.Choice != message.Choice) continue;
-        box.setStandardButtons(row.Shown);
-        box.setEscapeButton(row.Escape);
+        if (row.Choice == message.Choice) AddButtons(box, row);
     }
     box.setWindowTitle(ToScreen(message.Title));
     box.setTextFormat(Qt::PlainText);
@@ -167,9 +183,10 @@ std::string QtDesktop::InputBox(const std::string& prompt, const std::string& ti
     RefreshScreen();
     QInputDialog dialog(Parent());
     dialog.setWindowTitle(ToScreen(title));
-    dialog.setLabelText(ToScreen(prompt));
+    constexpr int width = 420;
+    dialog.setLabelText(WrappedText(ToScreen(prompt), dialog.font(), width));
     dialog.setTextValue(ToScreen(defaultText));
-    dialog.resize(420, dialog.height());
+    dialog.resize(width, dialog.height());
     return dialog.exec() == QDialog::Accepted ? ToCore(dialog.textValue()) : "";
 }
 
@@ -215,6 +232,10 @@ void QtDesktop::ShowModal(std::string_view form) {
     }
     view->Refresh();
     view->exec();
+}
+
+void QtDesktop::FocusWorksheet(int document) {
+    if (!QApplication::activeModalWidget()) frameView->FocusWorksheet(document);
 }
 
 void QtDesktop::PopupMenu(std::string_view menu, int document) {

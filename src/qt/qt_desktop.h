@@ -15,6 +15,7 @@ struct QtDesktop : Desktop {
     std::string SaveFileDialog(const std::string& filter, const std::string& fileName) override;
     std::int32_t ColorDialog(std::int32_t start) override;
     void ShowModal(std::string_view form) override;
+    void FocusWorksheet(int document) override;
     void PopupMenu(std::string_view menu, int document) override;
     void ArrangeWindows(int how) override;
     void SetClipboardText(const std::string& text) override;

@@ -28,6 +28,7 @@ void ApplyPreferences(Worksheet& sheet) {
 
 void mnuOptionsPrefs_Click(Worksheet& sheet) {
     desktop->ShowModal("frmPrefs");
+    desktop->FocusWorksheet(DocumentNumber(sheet));
     ForEachOpenDocument([](Worksheet& open, int) { ApplyPreferences(open); });
     mnuEditRedraw_Click(sheet);
 }
@@ -41,7 +42,7 @@ Form frmPrefs_Table() {
     return {"frmPrefs",
             &frmPrefs.Form,
             {{"sclWidth", &frmPrefs.sclWidth, frmPrefs_sclWidth_Change},
-             {"txtLineWidth", &frmPrefs.txtLineWidth, frmPrefs_txtLineWidth_Change},
+             {"txtLineWidth", &frmPrefs.txtLineWidth, frmPrefs_txtLineWidth_Change, TakesNumber},
              {"chkShowBubbles", &frmPrefs.chkShowBubbles},
              {"chkInput", &frmPrefs.chkInput},
              {"chkShowToolbox", &frmPrefs.chkShowToolbox},

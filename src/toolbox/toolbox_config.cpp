@@ -271,6 +271,7 @@ Form frmConfigToolbox_Table() {
 void mnuOptionsConfigureToolbox_Click(Worksheet& sheet) {
     frmConfigToolbox_Load();
     desktop->ShowModal("frmConfigToolbox");
+    desktop->FocusWorksheet(DocumentNumber(sheet));
     frmConfigToolbox = {};
     if (sheet.mnuOptionsToolbox.Checked) ShowToolbox();
 }

@@ -37,6 +37,12 @@ TEST(Numbers, TextBecomesANumber) {
         EXPECT_EQ(IsNumeric(text), row[1] != "error 13");
     }
     EXPECT_FALSE(IsNumeric(std::string("1\0", 2)));
+    for (const char* beginning : {"-", "+", ".", "-.", " 1e", "-.5e+"}) {
+        EXPECT_TRUE(BeginsNumber(beginning) && !IsNumeric(beginning)) << beginning;
+    }
+    for (const char* other : {"", " ", "1", "2.", "1e5", "e", "e5", ".e", "--", "1-", "1ex"}) {
+        EXPECT_FALSE(BeginsNumber(other)) << other;
+    }
     const double infinite = std::numeric_limits<double>::infinity();
     for (const double none : {infinite, -infinite, std::nan("")}) {
         EXPECT_EQ(Given([&] { return ToInt16(none); }), "error 6") << none;

@@ -1,19 +1,53 @@
 // SPDX-License-Identifier: MIT
 #include <QApplication>
 #include <QClipboard>
+#include <QComboBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QScreen>
 #include <QTest>
+#include <map>
 #include <set>
 
 #include "catalogue/box_commands.h"
 #include "diagram/box_table.h"
 #include "diagram/worksheet.h"
+#include "qt/dispatch.h"
 #include "qt/screen_units.h"
+#include "shell/help.h"
 #include "support/table_file.h"
+#include "toolbox/toolbox_config.h"
 #include "window/window_fixture.h"
 
 namespace quorvane::testing {
+
+namespace {
+
+/// Off-screen a dialog doesn't come to the front by itself.
+void Activate(QDialog& dialog) {
+    dialog.activateWindow();
+    QTRY_COMPARE(QApplication::activeWindow(), &dialog);
+}
+
+/// "|" is Tab, "<" Home, "#" Backspace, "!" a click on another option.
+void TypeKeys(QDialog& dialog, QWidget* control, const QString& keys) {
+    const std::map<QChar, Qt::Key> named = {
+        {'|', Qt::Key_Tab}, {'<', Qt::Key_Home}, {'#', Qt::Key_Backspace}};
+    for (const auto key : keys) {
+        if (key == '!') {
+            Play("opn(1)")(dialog);
+        } else if (named.contains(key)) {
+            QTest::keyClick(control, named.at(key));
+        } else {
+            QTest::keyClicks(control, QString(key));
+        }
+    }
+}
+
+}  // namespace
 
 /// The commands that make boxes, each chosen from its menu and answered by clicks.
 class DialogsTest : public QObject {
@@ -97,16 +131,190 @@ private slots:
                                 QTest::keyClicks(grid, "1");
                                 QTest::keyClick(grid, Qt::Key_Tab);
                                 QTest::keyClicks(grid, "-2.5x");
+                                QVERIFY(grid->testAttribute(Qt::WA_InputMethodEnabled));
+                                QInputMethodEvent accent("", {});
+                                accent.setCommitString("\u00e9");
+                                QCoreApplication::sendEvent(grid, &accent);
                                 QTest::keyClick(grid, Qt::Key_Backspace);
                                 QTest::keyClick(grid, Qt::Key_Down);
+                                QCoreApplication::sendEvent(grid, &accent);
                                 QTest::keyClicks(grid, "3");
                                 QTest::keyClick(grid, Qt::Key_Escape);
                                 QVERIFY(dialog.isVisible());
-                                Play("cmdOK")(dialog);
+                                QTest::keyClick(grid, Qt::Key_Backtab, Qt::ShiftModifier);
+                                QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
                             },
                             Press(QMessageBox::Ok)};
         program->Choose("mnuExeDDE");
-        QCOMPARE(QApplication::clipboard()->text(), "box1= [1  -2.5      ; 3         ]; \r\n");
+        QCOMPARE(QApplication::clipboard()->text(),
+                 "box1= [1  -2.5x      ; \u00e93         ]; \r\n");
+    }
+
+    void what_is_typed_stands_as_it_was_typed_data() {
+        for (const char* column : {"command", "field", "keys", "text"}) {
+            QTest::addColumn<QString>(column);
+        }
+        const auto add = [](const char* command, const char* field, const QString& keys,
+                            const QString& text) {
+            QTest::addRow("%s %s", field, qPrintable(keys.right(9)))
+                << QString(command) << QString(field) << keys << text;
+        };
+        add("mnuMatMakeVec", "txtMin", "5", "5");
+        add("mnuInputPause", "lblSecs", "#3", "3");
+        add("mnuInputPause", "lblSecs", "1e2", "1e2");
+        add("mnuInputPause", "lblSecs", "-5", "0");
+        for (const char* number : {"-5", ".5", "1e5", "-.5e+2", "2."}) {
+            add("mnuOperatorsFunc", "txtRow", number, number);
+            add("mnuConst", "txtConst", number, number);
+        }
+        add("mnuConst", "txtConst", "-x", "");
+        add("mnuConst", "txtConst", "-|", "");
+        add("mnuConst", "txtConst", "1e!", "");
+        add("mnuOptionsPrefs", "txtLineWidth", "3e0", "3e0");
+        add("mnuOptionsPrefs", "txtLineWidth", ".5", "1");
+        add("mnuSpecSubInsert", "available_subs", "ab", "ab");
+        add("mnuSpecSubInsert", "available_subs", "cd<ab", "abcd");
+        add("mnuSpecComment", "txtComment", QString(100, 'a') + "<xy", "xy" + QString(98, 'a'));
+    }
+
+    /// Typed into a dialog that has just opened, key by key and pasted whole.
+    void what_is_typed_stands_as_it_was_typed() {
+        QFETCH(QString, command);
+        QFETCH(QString, field);
+        QFETCH(QString, keys);
+        QFETCH(QString, text);
+        Boxes[NextBox++].BoxType = "abc Subroutine";
+        program->Answers = {[&](QDialog& dialog) {
+            Activate(dialog);
+            auto* control = dialog.findChild<QWidget*>(field);
+            if (dialog.focusWidget() != control) control->setFocus(Qt::TabFocusReason);
+            TypeKeys(dialog, control, keys);
+            auto* line = qobject_cast<QLineEdit*>(control);
+            QCOMPARE(line ? line->text() : static_cast<QComboBox*>(control)->currentText(), text);
+            if (line && keys.size() < 9) {
+                QApplication::clipboard()->setText(keys.remove(QRegularExpression("[|<#!]")));
+                line->setFocus();
+                line->selectAll();
+                line->paste();
+                line->clearFocus();
+                QCOMPARE(line->text(), text);
+            }
+            dialog.done(QDialog::Accepted);
+        }};
+        program->Choose(command);
+    }
+
+    void the_keyboard_reaches_each_control() {
+        const auto walk = [](QDialog& dialog, const char* name) {
+            for (int i = 0; i < 60 && dialog.focusWidget()->objectName() != name; ++i) {
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+            }
+            QCOMPARE(dialog.focusWidget()->objectName(), name);
+        };
+        const auto press = [](QDialog& dialog, std::initializer_list<Qt::Key> keys) {
+            Activate(dialog);
+            for (const auto key : keys) QTest::keyClick(dialog.focusWidget(), key);
+        };
+        program->Answers = {[&](QDialog& dialog) {
+                                press(dialog, {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return});
+                            },
+                            [&](QDialog& dialog) {
+                                walk(dialog, "spn");
+                                press(dialog, {Qt::Key_Up, Qt::Key_Return});
+                            },
+                            [&](QDialog& dialog) {
+                                Play("cmbType=2-D Plot|chkInput1(2)")(dialog);
+                                walk(dialog, "sclLinenum");
+                                press(dialog, {Qt::Key_Return});
+                            }};
+        program->Place("mnuOperatorsArith", {60, 60});
+        program->Place("mnuInputPause", {60, 160});
+        program->Place("mnuOutputPlot", {60, 260});
+        QCOMPARE(Boxes[1].BoxType + " " + Boxes[2].BoxText, "* 2");
+    }
+
+    void ok_gives_the_focus_to_the_worksheet_of_the_command() {
+        program->Choose("mnuFileNew");
+        program->Choose("mnuWindowsTile");
+        auto* toolbox = program->Frame().findChild<QWidget*>("frmPictures");
+        frmPictures.Form.Visible = true;
+        RefreshScreen();
+        for (const int sheet : {1, 2}) {
+            program->Answers = {Play("cmdOK")};
+            toolbox->activateWindow();
+            QTRY_VERIFY(toolbox->isActiveWindow());
+            frmMDI.txtEvent = "Bessel Function";
+            QTest::mouseMove(program->Surface(sheet), {20, 20});
+            QTRY_COMPARE(QApplication::focusWidget(), program->Surface(sheet));
+            program->Click({60, 60}, sheet);
+            toolbox->activateWindow();
+            program->Answers = {Cancel()};
+            QTest::mouseClick(program->Box(sheet, sheet), Qt::MiddleButton);
+            QTRY_COMPARE(QApplication::focusWidget(), program->Surface(sheet));
+        }
+    }
+
+    void buttons_of_messages_stand_in_their_order() {
+        struct Row {
+            QMessageBox::StandardButton Button;
+            Answer Given;
+        };
+        const Row rows[] = {{QMessageBox::Abort, Answer::Abort},
+                            {QMessageBox::Retry, Answer::Retry},
+                            {QMessageBox::Ignore, Answer::Ignore}};
+        for (int tabs = 0; tabs < 3; ++tabs) {
+            program->Answers = {[&](QDialog& dialog) {
+                const auto& box = static_cast<QMessageBox&>(dialog);
+                for (int i = 1; i < 3; ++i) {
+                    QVERIFY(box.button(rows[i - 1].Button)->x() < box.button(rows[i].Button)->x());
+                }
+                for (int i = 0; i < tabs; ++i) QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
+                QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
+            }};
+            QCOMPARE(QtDesktop().MsgBox({.Text = "?", .Choice = Buttons::AbortRetryIgnore}),
+                     rows[tabs].Given);
+        }
+    }
+
+    void no_text_makes_a_dialog_wider_than_the_screen() {
+        const auto fits = [](QDialog& dialog) {
+            QTest::qWait(0);
+            QVERIFY(dialog.width() < dialog.screen()->geometry().width());
+        };
+        for (const QString& formula : {QString(2000, 'x'), QString("x ").repeated(1000)}) {
+            const int box = NextBox;
+            program->Answers = {Play("txtFunc=" + formula + "|cmdOK"), [&](QDialog& dialog) {
+                                    const auto* label = dialog.findChild<QLabel*>("lblfunc");
+                                    QVERIFY(label->text().startsWith("Function: box"));
+                                    QCOMPARE(label->text().count('\n'), 5);
+                                    fits(dialog);
+                                    Cancel()(dialog);
+                                }};
+            program->Place("mnuOperatorsFunc", {box * 60, 60});
+            QTest::mouseClick(program->Box(box), Qt::MiddleButton);
+        }
+        const auto name = "/" + QString(900, 'n') + "&.tlb";
+        program->Answers = {[&](QDialog& dialog) {
+                                const int width = dialog.width();
+                                for (int tick = 0; tick < 90; ++tick) {
+                                    Dispatch(frmAbout_Timer1_Timer, &dialog);
+                                    QTest::qWait(0);
+                                    QCOMPARE(dialog.width(), width);
+                                }
+                                fits(dialog);
+                                Play("cmdOK")(dialog);
+                            },
+                            [&](QDialog& dialog) {
+                                frmConfigToolbox.opnFileName.Caption = ToCore(name);
+                                RefreshScreen();
+                                fits(dialog);
+                                const auto* option = dialog.findChild<QRadioButton*>("opnFileName");
+                                QVERIFY(option->text().startsWith("/nn"));
+                                QVERIFY(option->text().endsWith("&&.tlb"));
+                                Play("cmdCancel")(dialog);
+                            }};
+        program->Choose("mnuHelpAbout");
+        program->Choose("mnuOptionsConfigureToolbox");
     }
 
     void a_field_holds_one_line() {
