@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: MIT
-// Loading, compiling and saving diagrams of several shapes that fill a tenth of the table or all.
+// Loading, compiling, checking and saving diagrams of several shapes that fill a tenth of the table
+// or all.
 #include <benchmark/benchmark.h>
 
 #include <chrono>
 #include <filesystem>
 #include <stdexcept>
 
+#include "check/check_document.h"
 #include "diagram/worksheet.h"
 #include "diagrams.h"
 #include "files/document_file.h"
@@ -94,6 +96,14 @@ void Compiling(benchmark::State& state, const Shape& shape, int boxes) {
     if (script.size() != subject.Walk.ScriptBytes) state.SkipWithError("another script came out");
 }
 
+void Checking(benchmark::State& state, const Shape& shape, int boxes) {
+    const auto subject = Prepare(shape, boxes);
+    DrawOnNewSheet(subject.Boxes);
+    std::vector<Finding> found;
+    Measure(state, subject, ResetFront, [&] { found = CheckDocument(1); });
+    if (!found.empty()) state.SkipWithError("something was found");
+}
+
 void Saving(benchmark::State& state, const Shape& shape, int boxes) {
     const auto subject = Prepare(shape, boxes);
     DrawOnNewSheet(subject.Boxes);
@@ -106,7 +116,8 @@ struct Operation {
     const char* Name;
     void (*Run)(benchmark::State& state, const Shape& shape, int boxes);
 };
-constexpr Operation operations[] = {{"load", Loading}, {"compile", Compiling}, {"save", Saving}};
+constexpr Operation operations[] = {
+    {"load", Loading}, {"compile", Compiling}, {"check", Checking}, {"save", Saving}};
 
 /// Under the names operation/shape/boxes.
 void RegisterAll() {

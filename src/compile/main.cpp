@@ -5,12 +5,12 @@
 #include <string>
 #include <vector>
 
+#include "check/check_document.h"
 #include "compile/console_desktop.h"
 #include "compile/picture.h"
 #include "diagram/worksheet.h"
 #include "files/document_file.h"
 #include "files/settings.h"
-#include "generator/check_document.h"
 #include "generator/compile_document.h"
 #include "platform/file_table.h"
 #include "platform/numbers.h"
@@ -131,7 +131,7 @@ int Review(const Options& options) {
     return findings.empty() ? NothingFound : SomethingFound;
 }
 
-int Run(const Options& options) {
+int RunCommand(const Options& options) {
     ConsoleDesktop console;
     desktop = &console;
     console.WriteTranscript = [](const std::string& line) {
@@ -191,5 +191,5 @@ int main(int argc, char** argv) {
     } catch (const CLI::ParseError& error) {
         return Refuse(error.what());
     }
-    return Run(options);
+    return RunCommand(options);
 }

@@ -12,10 +12,7 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// Begins with "Input", or with "input" where both count.
-bool BeginsWithInput(std::string_view text, bool anyCase) {
-    return text.starts_with("Input") || (anyCase && text.starts_with("input"));
-}
+constexpr std::size_t WordLength = 5;  // of "Input"
 
 /// The variable that feeds the entry whose digit stands behind the word.
 std::string FeederName(int box, std::string_view behindWord) {
@@ -25,19 +22,15 @@ std::string FeederName(int box, std::string_view behindWord) {
 
 /// Puts the names of the feeders in place of "Input1" to "Input3". The scan ends at the position at
 /// which the text ended before it, so that longer names push the last words out of its reach. A
-/// word that can't be replaced is a run-time error, and stays under the ignore policy. A plot's
-/// text takes only the capital form, and a word without a digit is not meant there.
+/// word that can't be replaced is a run-time error, and stays under the ignore policy.
 std::string WithFeeders(const Run& run, int box, std::string_view text, bool isPlot) {
-    constexpr std::size_t wordLength = 5;
     const auto bound = text.size();
     std::string filled;
     filled.reserve(bound);
     while (!text.empty() && filled.size() < bound) {
-        const auto behind = text.substr(std::min(wordLength, text.size()));
-        const bool meant =
-            BeginsWithInput(text, !isPlot) && (!isPlot || (!behind.empty() && IsDigit(behind[0])));
-        if (meant && Attempt(run.Policy, [&] { filled += FeederName(box, behind); })) {
-            text.remove_prefix(wordLength + 1);
+        if (NamesEntry(text, isPlot) &&
+            Attempt(run.Policy, [&] { filled += FeederName(box, text.substr(WordLength)); })) {
+            text.remove_prefix(WordLength + 1);
         } else {
             filled += text[0];
             text.remove_prefix(1);
@@ -68,9 +61,16 @@ bool WriteMatrixInput(Run& run, int box, int /*slot*/) {
     return true;
 }
 
+bool IsMadeByText(const Box& box) {
+    const auto& in = box.BoxIn;
+    if (box.BoxType == "Matrix Make Input") return in[1] == LockedSlot && in[2] == LockedSlot;
+    return box.BoxType == "Vector Make Input" && in[1] == LockedSlot && in[2] == LockedSlot &&
+           in[3] == LockedSlot;
+}
+
 bool WriteMatrixMake(Run& run, int box, int /*slot*/) {
     const Box& record = Boxes[box];
-    if (record.BoxIn[1] == LockedSlot && record.BoxIn[2] == LockedSlot) {
+    if (IsMadeByText(record)) {
         WriteLine(run, Assigned(box) + record.BoxText + ";");
         return true;
     }
@@ -86,7 +86,7 @@ bool WriteMatrixMake(Run& run, int box, int /*slot*/) {
 bool WriteVectorMake(Run& run, int box, int /*slot*/) {
     const Box& record = Boxes[box];
     const auto& in = record.BoxIn;
-    if (in[1] == LockedSlot && in[2] == LockedSlot && in[3] == LockedSlot) {
+    if (IsMadeByText(record)) {
         WriteLine(run, Assigned(box) + record.BoxText);
         return true;
     }
@@ -139,6 +139,13 @@ bool WriteSum(Run& run, int box, int /*slot*/) {
     return true;
 }
 
+bool NamesEntry(std::string_view text, bool isPlot) {
+    if (isPlot) {
+        return text.starts_with("Input") && text.size() > WordLength && IsDigit(text[WordLength]);
+    }
+    return text.starts_with("Input") || text.starts_with("input");
+}
+
 bool WriteFunction(Run& run, int box, int /*slot*/) {
     constexpr std::string_view output = "Output";
     std::string text = Boxes[box].BoxText;
@@ -152,14 +159,23 @@ bool WriteFunction(Run& run, int box, int /*slot*/) {
     return true;
 }
 
+bool IsLogicOperator(std::string_view text) {
+    return text == "|" || text == "&" || text == "~" || text == "xor";
+}
+
 bool WriteLogic(Run& run, int box, int /*slot*/) {
     const Box& record = Boxes[box];
     const auto& text = record.BoxText;
     const auto first = BoxName(record.BoxIn[1]);
     const auto second = BoxName(record.BoxIn[2]);
-    if (text == "|" || text == "&") WriteLine(run, Assigned(box) + first + text + second + ";");
-    if (text == "~") WriteLine(run, Assigned(box) + "~" + first + ";");
-    if (text == "xor") WriteLine(run, Assigned(box) + "xor(" + first + "," + second + ");");
+    if (!IsLogicOperator(text)) return true;
+    if (text == "~") {
+        WriteLine(run, Assigned(box) + "~" + first + ";");
+    } else if (text == "xor") {
+        WriteLine(run, Assigned(box) + "xor(" + first + "," + second + ");");
+    } else {
+        WriteLine(run, Assigned(box) + first + text + second + ";");
+    }
     return true;
 }
 
@@ -188,12 +204,14 @@ bool WriteSplit(Run& run, int box, int /*slot*/) {
     return true;
 }
 
+bool HandsOn(const Box& pause) {
+    const int feeder = pause.BoxIn[1];
+    return feeder > 0 && BoxOrFree(feeder).BoxType != "Dummy Input";
+}
+
 bool WritePause(Run& run, int box, int /*slot*/) {
     const Box& record = Boxes[box];
-    const int feeder = record.BoxIn[1];
-    if (feeder > 0 && Boxes[feeder].BoxType != "Dummy Input") {
-        WriteLine(run, Assigned(box) + BoxName(feeder) + ";");
-    }
+    if (HandsOn(record)) WriteLine(run, Assigned(box) + BoxName(record.BoxIn[1]) + ";");
     WriteLine(run, record.BoxText.empty() ? "pause;" : "pause(" + record.BoxText + ");");
     return true;
 }

@@ -5,6 +5,7 @@
 
 #include "diagram/worksheet.h"
 #include "files/settings.h"
+#include "generator/control_flow.h"
 #include "generator/emission_chain.h"
 #include "generator/front.h"
 #include "generator/output_targets.h"
@@ -20,23 +21,23 @@ namespace {
 
 constexpr std::string_view IndentStep = "   ";
 
-/// Source boxes come first: all entries locked, and a type that ends so. With the preference on,
-/// every box without an arrow into it follows.
+bool AllEntriesAre(const Box& box, std::int16_t value) {
+    return std::all_of(box.BoxIn.begin(), box.BoxIn.end(),
+                       [value](auto entry) { return entry == value; });
+}
+
+bool IsSource(const Box& box) {
+    return box.BoxType.ends_with("Input") && AllEntriesAre(box, LockedSlot);
+}
+
+bool StartsUnwired(const Box& box) { return frmPrefs.chkInput.Value == 1 && AllEntriesAre(box, 0); }
+
+/// The sources come first.
 void AddStartBoxes(const Run& run) {
-    const auto allEntriesAre = [](const Box& box, std::int16_t value) {
-        return std::all_of(box.BoxIn.begin(), box.BoxIn.end(),
-                           [value](auto entry) { return entry == value; });
-    };
-    for (std::int16_t i = 1; i < NextBox; ++i) {
-        const Box& box = Boxes[i];
-        if (box.BoxType.ends_with("Input") && allEntriesAre(box, LockedSlot) &&
-            box.BoxDocument == run.Document) {
-            AddToFront(i);
+    for (const auto starts : {IsSource, StartsUnwired}) {
+        for (std::int16_t i = 1; i < NextBox; ++i) {
+            if (Boxes[i].BoxDocument == run.Document && starts(Boxes[i])) AddToFront(i);
         }
-    }
-    if (frmPrefs.chkInput.Value != 1) return;
-    for (std::int16_t i = 1; i < NextBox; ++i) {
-        if (allEntriesAre(Boxes[i], 0) && Boxes[i].BoxDocument == run.Document) AddToFront(i);
     }
 }
 
@@ -58,9 +59,7 @@ void Indent(Run& run) {
 /// The boxes that `box` feeds enter the front. An "If" has opened its arms itself, and goes on by
 /// its further exits.
 void AddSuccessors(const Box& box) {
-    const bool isIf = box.BoxType == "If";
-    for (int j = 1; j <= 5; ++j) {
-        if (isIf && (j == 1 || (j == 2 && box.BoxText.starts_with("else")))) continue;
+    for (int j = ArmCount(box) + 1; j <= 5; ++j) {
         if (box.BoxOut[j] != 0) AddToFront(box.BoxOut[j]);
     }
 }
@@ -151,16 +150,28 @@ bool WalkFront(Run& run) {
     return true;
 }
 
-std::string Finish(Run& run) {
+/// Tells how the walk has ended and puts back what it has changed.
+RunEnd Finish(RunEnd end) {
     ClearMarks();
-    Tell("Done !", Icon::Information);
-    UpdateBoxGauge(BoxTableFill());
+    if (end == RunEnd::Refused) Tell("There are no inputs !", Icon::Exclamation);
+    if (end == RunEnd::Done) {
+        Tell("Done !", Icon::Information);
+        UpdateBoxGauge(BoxTableFill());
+    }
     SetPointerAll(PointerDefault);
-    lastRunEnd = RunEnd::Done;
-    return run.Mode == 0 ? std::string() : std::move(run.scriptText);
+    return end;
 }
 
 }  // namespace
+
+bool StartsRun(const Box& box) { return IsSource(box) || StartsUnwired(box); }
+
+RunEnd WalkDocument(Run& run) {
+    ClearFront();
+    AddStartBoxes(run);
+    if (!HasStartBox()) return RunEnd::Refused;
+    return WalkFront(run) ? RunEnd::Done : RunEnd::Aborted;
+}
 
 std::string CompileDocument(std::int16_t mode, const std::string& documentTag) {
     Run run;
@@ -168,25 +179,15 @@ std::string CompileDocument(std::int16_t mode, const std::string& documentTag) {
     run.Document = TextToInt16(documentTag);
     lastRunEnd = RunEnd::None;
     SetPointerAll(PointerHourglass);
-    ClearFront();
-    AddStartBoxes(run);
-    if (!HasStartBox()) {
-        Tell("There are no inputs !", Icon::Exclamation);
-        SetPointerAll(PointerDefault);
-        lastRunEnd = RunEnd::Refused;
-        return "";
-    }
     try {
-        if (WalkFront(run)) return Finish(run);
+        lastRunEnd = Finish(WalkDocument(run));
     } catch (...) {
         ClearMarks();
         SetPointerAll(PointerDefault);
         throw;
     }
-    ClearMarks();
-    SetPointerAll(PointerDefault);
-    lastRunEnd = RunEnd::Aborted;
-    return "";
+    const bool comesBack = lastRunEnd == RunEnd::Done && mode != 0;
+    return comesBack ? std::move(run.scriptText) : std::string();
 }
 
 }  // namespace quorvane

@@ -4,12 +4,23 @@
 #include <cstdint>
 #include <string>
 
+#include "generator/run.h"
+
 namespace quorvane {
 
 /// How the last run ended: None before and during a run, Refused without a start box, Aborted by
 /// the user's answer, Done at its end.
 enum class RunEnd { None, Refused, Aborted, Done };
 extern RunEnd lastRunEnd;
+
+/// True for a box that starts a run of its document: a source, whose type ends in "Input" and whose
+/// entries are all locked, or with the preference `chkInput` a box with three open entries.
+bool StartsRun(const Box& box);
+
+/// Walks the document of a run from its start boxes on and tells how that ended. Nothing is told or
+/// put back: the marks stand on the boxes that are done, and the front as it was in the end. What
+/// it asks for goes to Desktop.
+RunEnd WalkDocument(Run& run);
 
 /// Turns the boxes of the document with this number into script. With `mode` 1 the script comes
 /// back; with `mode` 0 each box's text is sent to MATLAB as soon as it is made, and "" comes back.

@@ -61,16 +61,25 @@ bool WriteEndSubroutine(Run& run, int box, int /*slot*/) {
     return true;
 }
 
+int ArmCount(const Box& box) {
+    if (box.BoxType != "If") return 0;
+    return box.BoxText.starts_with(ElseMark) ? 2 : 1;
+}
+
+std::string_view ConditionOf(const Box& box) {
+    const std::string_view text = box.BoxText;
+    return text.substr(text.starts_with(ElseMark) ? ElseMark.size() : 0);
+}
+
 bool WriteIf(Run& run, int box, int /*slot*/) {
     if (!MayOpen(run, box)) return false;
     const Box& record = Boxes[box];
-    const bool hasElse = record.BoxText.starts_with(ElseMark);
-    run.workText = hasElse ? record.BoxText.substr(ElseMark.size()) : record.BoxText;
+    run.workText = ConditionOf(record);
     WriteLine(run, BoxName(box) + "=" + BoxName(record.BoxIn[1]) + ";");
     WriteLine(run, "if (" + run.workText + "),");
     PushFront(run.Policy, -1);
     Front[1] = record.BoxOut[1];
-    if (hasElse) {
+    if (ArmCount(record) == 2) {
         PushFront(run.Policy, -1);
         Front[1] = record.BoxOut[2];
         Front[0] = static_cast<std::int16_t>(box);
@@ -87,12 +96,15 @@ bool WriteEndIf(Run& run, int /*box*/, int /*slot*/) {
 
 bool IsSubroutineCall(std::string_view type) { return type.starts_with("Insert Subroutine"); }
 
+std::string CalledHead(std::string_view call) {
+    constexpr std::size_t prefixLength = 18;  // with the blank behind the words
+    return std::string(call.substr(std::min(prefixLength, call.size()))) + " Subroutine";
+}
+
 bool WriteSubroutineCall(Run& run, int box, int /*slot*/) {
     if (run.stallCount > 0 ? !MayOpen(run, box) : !Ready(run, box)) return false;
-    constexpr std::size_t prefixLength = 18;  // with the blank behind the words
     const Box& record = Boxes[box];
-    run.workText = record.BoxType.substr(std::min(prefixLength, record.BoxType.size()));
-    run.workText += " Subroutine";
+    run.workText = CalledHead(record.BoxType);
     PushFront(run.Policy, -1);
     for (std::int16_t j = 1; j < NextBox; ++j) {
         if (Boxes[j].BoxType != run.workText) continue;

@@ -177,13 +177,7 @@ bool Applies(const Piece& piece, const Box& box) {
     for (const char entry : piece.Wired) {
         if (box.BoxIn[entry - '0'] <= 0) return false;
     }
-    switch (piece.Whom) {
-        case For::Types: return Contains(piece.Names, box.BoxType);
-        case For::OtherTypes: return !Contains(piece.Names, box.BoxType);
-        case For::Texts: return Contains(piece.Names, LowerCase(box.BoxText));
-        case For::All: break;
-    }
-    return true;
+    return IsFor(piece, box);
 }
 
 void WriteTexts(Run& run, const EmissionRow& row, int box) {
@@ -206,6 +200,16 @@ std::vector<EmissionRow> PlainRows() {
 }
 
 }  // namespace
+
+bool IsFor(const Piece& piece, const Box& box) {
+    switch (piece.Whom) {
+        case For::Types: return Contains(piece.Names, box.BoxType);
+        case For::OtherTypes: return !Contains(piece.Names, box.BoxType);
+        case For::Texts: return Contains(piece.Names, LowerCase(box.BoxText));
+        case For::All: break;
+    }
+    return true;
+}
 
 const EmissionRow* FindEmissionRow(std::string_view type) {
     // The rows that list their types are looked up; those that can't list them stand at the end of

@@ -24,6 +24,9 @@ struct Piece {
     std::vector<std::string_view> Names = {};
 };
 
+/// True when a piece is for this box, by its type or text.
+bool IsFor(const Piece& piece, const Box& box);
+
 /// A row of the chain: the types it writes and how. A row without a writer writes Head, the pieces
 /// that apply and Close, and a line end. Holes of the texts: {id}, {in1} to {in3}, {value} the
 /// box's text, {type}, and {lctype} and {lcvalue} in lower case.

@@ -17,8 +17,6 @@ namespace {
 
 constexpr int FrontStep = 5;
 
-bool IsDone(int box) { return Boxes[box].BoxMark == "OK"; }
-
 void SetFrameWidth() {
     for (int i = 0; i <= FrameStack.UpperBound(); ++i) FrameStack[i].Resize(frontWidth);
 }
@@ -79,15 +77,17 @@ bool InputsReady(std::string& scriptText, int box) {
     return true;
 }
 
+int UndoneFeeder(int box) {
+    for (const int feeder : Boxes[box].BoxIn) {
+        if (feeder > 0 && Boxes[feeder].BoxMark != "OK") return feeder;
+    }
+    return 0;
+}
+
 bool NoOtherBoxReady(int box) {
     for (int slot = 1; slot <= frontWidth; ++slot) {
         const int other = Front[slot];
-        if (other == 0 || other == box) continue;
-        const auto& feeders = Boxes[other].BoxIn;
-        if (std::all_of(feeders.begin(), feeders.end(),
-                        [](auto feeder) { return feeder <= 0 || IsDone(feeder); })) {
-            return false;
-        }
+        if (other != 0 && other != box && UndoneFeeder(other) == 0) return false;
     }
     return true;
 }

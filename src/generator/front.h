@@ -37,6 +37,9 @@ void RemoveFromFront(int slot);
 /// table.
 bool InputsReady(std::string& scriptText, int box);
 
+/// The first feeder of `box` that isn't done, 0 for none. Error 9 for a number outside the table.
+int UndoneFeeder(int box);
+
 /// True when no other box of the front could be emitted instead of `box`.
 bool NoOtherBoxReady(int box);
 

@@ -3,13 +3,13 @@
 // end in any of its ways, in a run-time error too; it may not crash, hang, ask for ever or leave
 // marks behind, and what was saved must come back.
 
+#include "check/check_document.h"
 #include "commands/matrix_input.h"
 #include "diagram/box_table.h"
 #include "diagram/worksheet.h"
 #include "files/document_file.h"
 #include "files/settings.h"
 #include "fuzz/fuzz_support.h"
-#include "generator/check_document.h"
 #include "generator/compile_document.h"
 
 using namespace quorvane;

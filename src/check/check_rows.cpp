@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "generator/check_rows.h"
+#include "check/check_rows.h"
 
 #include <algorithm>
 
+#include "generator/box_writers.h"
+#include "generator/control_flow.h"
 #include "generator/emission_chain.h"
 #include "platform/numbers.h"
 
 namespace quorvane {
-
-bool HasOperator(const Box& box) {
-    const auto& text = box.BoxText;
-    return text == "|" || text == "&" || text == "~" || text == "xor";
-}
 
 namespace {
 
@@ -123,56 +120,30 @@ void AddHoles(std::string& entries, std::string_view text) {
     }
 }
 
-bool IsFor(const Piece& piece, const Box& box) {
-    const auto names = [&](std::string_view name) {
-        return std::find(piece.Names.begin(), piece.Names.end(), name) != piece.Names.end();
-    };
-    switch (piece.Whom) {
-        case For::Types: return names(box.BoxType);
-        case For::OtherTypes: return !names(box.BoxType);
-        case For::Texts: return names(LowerCase(box.BoxText));
-        case For::All: break;
-    }
-    return true;
-}
-
-bool IsFreeText(const Box& box) {
-    return box.BoxType == "Compute Function" || box.BoxType == "Matlab Command";
-}
-
 /// The characters behind each word of a free text or a plot that names an entry; a blank at the
 /// end.
 std::string BehindEntryWords(const Box& box) {
-    const bool isPlot = box.BoxType == "Plot Output";
-    if (!isPlot && !IsFreeText(box)) return "";
+    const auto* row = FindEmissionRow(box.BoxType);
+    const bool isPlot = row && row->Write == WritePlot;
+    if (!isPlot && !(row && row->Write == WriteFunction)) return "";
     std::string behind;
-    for (std::size_t at = 0; at < box.BoxText.size(); ++at) {
-        const auto text = std::string_view(box.BoxText).substr(at);
-        if (!text.starts_with("Input") && (isPlot || !text.starts_with("input"))) continue;
-        const char next = text.size() > 5 ? text[5] : ' ';
-        const bool meant = !isPlot || (next >= '0' && next <= '9');
-        if (meant) behind += next;
+    for (std::string_view text = box.BoxText; !text.empty(); text.remove_prefix(1)) {
+        if (NamesEntry(text, isPlot)) behind += text.size() > 5 ? text[5] : ' ';
     }
     return behind;
 }
 
 bool IsEntryDigit(char c) { return c >= '1' && c <= '3'; }
 
-bool AllLocked(const Box& box, int entries) {
-    return std::all_of(box.BoxIn.begin(), box.BoxIn.begin() + entries,
-                       [](auto entry) { return entry == LockedSlot; });
-}
-
 std::string EntriesOfWriter(const Box& box) {
     const auto& type = box.BoxType;
     if (type == "Logic Operator") {
-        if (!HasOperator(box)) return "";
+        if (!IsLogicOperator(box.BoxText)) return "";
         return box.BoxText == "~" ? "1" : "12";
     }
-    if (type == "Vector Make Input") return AllLocked(box, 3) ? "" : "123";
-    if (type == "Matrix Make Input") return AllLocked(box, 2) ? "" : "12";
-    if (type.starts_with("Insert Subroutine")) return "1";
-    return "";
+    if (type == "Vector Make Input") return IsMadeByText(box) ? "" : "123";
+    if (type == "Matrix Make Input") return IsMadeByText(box) ? "" : "12";
+    return IsSubroutineCall(type) ? "1" : "";
 }
 
 }  // namespace
@@ -205,7 +176,7 @@ std::string NeededEntries(const Box& box) {
 std::string_view MissingInText(const Box& box) {
     const auto& text = box.BoxText;
     const auto& type = box.BoxType;
-    if (type == "If") return text.empty() || text == "else" ? "a condition" : "";
+    if (type == "If") return ConditionOf(box).empty() ? "a condition" : "";
     if (type == "For") {
         const bool whole = !text.empty() && text[0] != ':' && text[0] != ',' &&
                            text.find("::") == std::string::npos &&
@@ -213,7 +184,7 @@ std::string_view MissingInText(const Box& box) {
         return whole ? "" : "a part of its range";
     }
     if (!text.empty()) return "";
-    if (type.ends_with("Make Input") && !AllLocked(box, 2)) return "";
+    if (type.ends_with("Make Input") && !IsMadeByText(box)) return "";
     if (const auto* row = Find(textsOfTypes, type)) return row->Fault;
     const auto* row = FindEmissionRow(type);
     const bool named = row && row->Head.find("{lcvalue}(") != std::string_view::npos;
@@ -226,7 +197,7 @@ bool NamesNoEntry(const Box& box) {
 }
 
 bool SetsItsVariable(const Box& box) {
-    if (box.BoxType == "Pause") return box.BoxIn[1] > 0;
+    if (box.BoxType == "Pause") return HandsOn(box);
     return std::find(std::begin(typesWithoutValue), std::end(typesWithoutValue), box.BoxType) ==
            std::end(typesWithoutValue);
 }

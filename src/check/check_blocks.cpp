@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: MIT
-#include "generator/check_blocks.h"
+#include "check/check_blocks.h"
 
 #include "generator/control_flow.h"
+#include "generator/emission_chain.h"
 
 namespace quorvane {
 
 namespace {
 
-bool IsCloser(std::string_view type) {
-    return type == "Next" || type == "End If" || type == "End Subroutine";
-}
-
-std::vector<int> Peers(const Box& box, const std::vector<int>& exits) {
+/// The boxes behind these exits.
+std::vector<int> Peers(const Box& box, ExitRange exits) {
     std::vector<int> peers;
-    for (const int exit : exits) {
+    for (int exit = exits.First; exit <= exits.Last; ++exit) {
         if (box.BoxOut[exit] > 0 && box.BoxOut[exit] < NextBox) peers.push_back(box.BoxOut[exit]);
     }
     return peers;
@@ -22,31 +20,30 @@ std::vector<int> Peers(const Box& box, const std::vector<int>& exits) {
 }  // namespace
 
 std::string_view CloserOf(std::string_view type) {
-    if (type == "For" || type == "While") return "Next";
-    if (type == "If") return "End If";
-    const bool isHead =
-        IsSubroutineHead(type) && !IsSubroutineCall(type) && type != "End Subroutine";
-    return isHead ? "End Subroutine" : "";
+    const auto* row = FindEmissionRow(type);
+    if (!row || !row->Write) return "";
+    if (row->Write == WriteLoop) return "Next";
+    if (row->Write == WriteIf) return "End If";
+    return row->Write == WriteSubroutineHead ? "End Subroutine" : "";
 }
 
-std::vector<int> InnerExits(const Box& box) {
-    if (box.BoxType != "If") return {1, 2, 3, 4, 5};
-    return box.BoxText.starts_with("else") ? std::vector<int>{1, 2} : std::vector<int>{1};
+bool IsCloser(std::string_view type) {
+    return type == "Next" || type == "End If" || type == "End Subroutine";
+}
+
+ExitRange InnerExits(const Box& box) {
+    const int arms = ArmCount(box);
+    return arms == 0 ? AllExits : ExitRange{1, arms};
 }
 
 /// Where the walk goes on behind a box on its own level.
 std::vector<int> Blocks::Behind(int number) {
     const Box& box = Boxes[number];
     if (IsCloser(box.BoxType)) return {};
-    if (box.BoxType == "If") {
-        std::vector<int> further = {2, 3, 4, 5};
-        if (box.BoxText.starts_with("else")) further.erase(further.begin());
-        return Peers(box, further);
-    }
-    if (CloserOf(box.BoxType) != "Next") return Peers(box, {1, 2, 3, 4, 5});
+    if (CloserOf(box.BoxType) != "Next") return Peers(box, {ArmCount(box) + 1, 5});
     std::vector<int> behind;
     for (const int next : Whole(number).Closers) {
-        for (const int peer : Peers(Boxes[next], {1, 2, 3, 4, 5})) behind.push_back(peer);
+        for (const int peer : Peers(Boxes[next], AllExits)) behind.push_back(peer);
     }
     return behind;
 }
@@ -67,11 +64,11 @@ std::vector<int> Blocks::Level(std::vector<int> waiting) {
     return level;
 }
 
-std::vector<int> Blocks::Inside(int box, const std::vector<int>& exits) {
+std::vector<int> Blocks::Inside(int box, ExitRange exits) {
     return Level(Peers(Boxes[box], exits));
 }
 
-Blocks::Block Blocks::Inspect(int number, const std::vector<int>& exits) {
+Blocks::Block Blocks::Inspect(int number, ExitRange exits) {
     const Box& box = Boxes[number];
     const auto level = Inside(number, exits);
     Block block;
@@ -97,8 +94,6 @@ const Blocks::Block& Blocks::Whole(int box) {
     return known_[box] = Inspect(box, InnerExits(Boxes[box]));
 }
 
-std::vector<int> Blocks::Closers(int box, const std::vector<int>& exits) {
-    return Inspect(box, exits).Closers;
-}
+std::vector<int> Blocks::Closers(int box, ExitRange exits) { return Inspect(box, exits).Closers; }
 
 }  // namespace quorvane

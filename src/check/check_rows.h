@@ -26,10 +26,6 @@ std::string ManipulationInstead(std::string_view text);
 /// arguments, in order. The words of free texts count as they stand there.
 std::string NeededEntries(const Box& box);
 
-/// True when the text of a "Logic Operator" is an operator. The sign "~" parts the fields of a
-/// diagram file, and so is lost there.
-bool HasOperator(const Box& box);
-
 /// What the text of a box lacks for a whole line, "" when it is all there.
 std::string_view MissingInText(const Box& box);
 

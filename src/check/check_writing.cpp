@@ -1,34 +1,59 @@
 // SPDX-License-Identifier: MIT
+#include "check/check_writing.h"
+
 #include <algorithm>
 #include <cctype>
+#include <charconv>
 
-#include "generator/check_parts.h"
-#include "generator/check_rows.h"
+#include "check/check_rows.h"
+#include "generator/box_writers.h"
 #include "platform/numbers.h"
 
 namespace quorvane {
 
 namespace {
 
+bool IsNameLetter(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
+
 /// True when a text of a box mentions a variable, and so may set it.
 bool IsMentioned(const Check& check, const std::string& name) {
-    const auto isLetter = [](char c) {
-        return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
-    };
-    return std::any_of(check.Own.begin(), check.Own.end(), [&](int box) {
-        const auto& text = Boxes[box].BoxText;
-        if (Boxes[box].BoxType == "Pickup" || Boxes[box].BoxType == "Comment") return false;
-        for (auto at = text.find(name); at != std::string::npos; at = text.find(name, at + 1)) {
-            const auto end = at + name.size();
-            const bool begins =
-                at == 0 || !isLetter(text[at - 1]) || text.compare(0, at, "else") == 0;
-            if (begins && (end == text.size() || !isLetter(text[end]))) return true;
-        }
-        return false;
-    });
+    return std::binary_search(check.Words.begin(), check.Words.end(), name);
+}
+
+/// True when a box of the document sets the variable that a Pickup names: its own, or what it
+/// loads, which is called as its file is.
+bool IsSet(const Check& check, std::string_view name, int pickup) {
+    int number = 0;
+    if (name.starts_with("box"))
+        std::from_chars(name.data() + 3, name.data() + name.size(), number);
+    if (IsThere(number) && number != pickup && name == BoxName(number) &&
+        Boxes[number].BoxDocument == check.Document && SetsItsVariable(Boxes[number])) {
+        return true;
+    }
+    return std::any_of(check.Own.begin(), check.Own.end(),
+                       [](int each) { return Boxes[each].BoxType == "Ascii File Input"; });
 }
 
 }  // namespace
+
+void FindWords(Check& check) {
+    for (const int box : check.Own) {
+        if (IsPassive(Boxes[box])) continue;
+        const std::string_view text = Boxes[box].BoxText;
+        auto begin = text.begin();
+        while ((begin = std::find_if(begin, text.end(), IsNameLetter)) != text.end()) {
+            const auto end = std::find_if_not(begin, text.end(), IsNameLetter);
+            check.Words.emplace_back(begin, end);
+            begin = end;
+        }
+        if (text.starts_with("else")) {
+            const auto behind = text.substr(4);
+            check.Words.emplace_back(behind.begin(),
+                                     std::find_if_not(behind.begin(), behind.end(), IsNameLetter));
+        }
+    }
+    std::sort(check.Words.begin(), check.Words.end());
+}
 
 void CheckEntries(Check& check, int number) {
     const Box& box = Boxes[number];
@@ -64,11 +89,11 @@ void CheckText(Check& check, int number) {
                InPlace(ManipulationInstead(box.BoxText)));
     }
     const auto& in = box.BoxIn;
-    if (box.BoxType == "Matrix Make Input" && (in[1] != LockedSlot || in[2] != LockedSlot)) {
+    if (box.BoxType == "Matrix Make Input" && !IsMadeByText(box)) {
         Report(check, number, "Its line takes the number of a box as a size and keeps nothing",
                InPlace("zeros(input1,input2);"));
     }
-    if (box.BoxType == "Logic Operator" && !HasOperator(box)) {
+    if (box.BoxType == "Logic Operator" && !IsLogicOperator(box.BoxText)) {
         Report(check, number, "It has no operator and writes no line",
                InPlace("not(input1);") + " or another one");
     }
@@ -95,16 +120,10 @@ void CheckPickup(Check& check, int number) {
                                               "NaN", "i",  "j",   "flops", "realmax", "realmin"};
     const auto& name = box.BoxText;
     const bool isName = !name.empty() && !std::isdigit(static_cast<unsigned char>(name[0])) &&
-                        std::all_of(name.begin(), name.end(),
-                                    [](unsigned char c) { return std::isalnum(c) || c == '_'; });
+                        std::all_of(name.begin(), name.end(), IsNameLetter);
     const bool isKnown =
         std::find(std::begin(constants), std::end(constants), name) != std::end(constants);
-    // What a file holds is called as the file is.
-    const bool isSet = std::any_of(check.Own.begin(), check.Own.end(), [&](int each) {
-        return Boxes[each].BoxType == "Ascii File Input" ||
-               (each != number && name == BoxName(each) && SetsItsVariable(Boxes[each]));
-    });
-    if (isName && !isKnown && !isSet && !IsMentioned(check, name)) {
+    if (isName && !isKnown && !IsMentioned(check, name) && !IsSet(check, name, number)) {
         Report(check, number, "No box sets " + name + ", which it picks up",
                "Pick up a variable that is set before, such as that of a box");
     }

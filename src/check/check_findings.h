@@ -5,7 +5,8 @@
 #include <string_view>
 #include <vector>
 
-#include "generator/check_document.h"
+#include "check/check_document.h"
+#include "diagram/box_table.h"
 
 namespace quorvane {
 
@@ -16,9 +17,10 @@ struct Check {
     bool Stops = false;         ///< A finding keeps the run from its end or a box from the script
     std::vector<int> Own;       ///< The boxes of the document
     std::vector<bool> Reached;  ///< By number: the arrows lead to it from a start
+    std::vector<std::string_view> Words;  ///< The names in the texts of its boxes, in order
 };
 
-/// Adds a finding behind those of the same box and of boxes before it.
+/// Adds a finding about a box, or with 0 about the diagram.
 void Report(Check& check, int box, const std::string& text, const std::string& advice);
 /// A finding that explains why a run doesn't come to its end.
 void ReportStop(Check& check, int box, const std::string& text, const std::string& advice);
@@ -26,25 +28,11 @@ void ReportStop(Check& check, int box, const std::string& text, const std::strin
 bool IsReached(const Check& check, int box);
 /// True for a number that a box of the table has.
 bool IsThere(int box);
+/// Passive boxes: the walk doesn't come to them.
+bool IsPassive(const Box& box);
 /// "box3 (Sin)"
 std::string Named(int box);
 /// The advice to use a "Matlab Command" box with this function.
 std::string InPlace(std::string_view function);
-/// The type of the heads that a box of this type calls.
-std::string HeadOf(const std::string& caller);
-
-// What a box writes: its entries, its text and the row of its type.
-void CheckEntries(Check& check, int number);
-void CheckText(Check& check, int number);
-void CheckPickup(Check& check, int number);
-
-// How boxes hang together.
-
-/// A box to which no arrows lead from a start. Of a chain of them only the first is told.
-void CheckUnreached(Check& check, int number);
-void CheckArrows(Check& check, int number);
-void CheckSubroutine(Check& check, int number);
-/// What opens blocks and what closes them, in the whole document.
-void CheckBlocks(Check& check);
 
 }  // namespace quorvane

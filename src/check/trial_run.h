@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <string>
 #include <vector>
 
 namespace quorvane {
@@ -18,11 +17,11 @@ struct TrialEnd {
     int Error = 0;                    ///< The run-time error that ended it, 0 for none
     int Depth = 0;                    ///< Blocks that are open in the end; below 0 more were closed
     std::vector<WaitingBox> Waiting;  ///< The front when it asked what to do about a stall
-    std::string Script;
+    std::vector<bool> Written;        ///< By number: the box is done
 };
 
-/// Compiles a document to text with every question cancelled or aborted, and puts everything back
-/// as it was.
+/// Walks a document with every question cancelled or aborted, and puts everything back as it was,
+/// whatever ends the walk.
 TrialEnd TryCompiling(int document);
 
 }  // namespace quorvane
