@@ -142,6 +142,7 @@ private slots:
                                 QTest::keyClick(grid, Qt::Key_Escape);
                                 QVERIFY(dialog.isVisible());
                                 QTest::keyClick(grid, Qt::Key_Backtab, Qt::ShiftModifier);
+                                QCOMPARE(dialog.focusWidget()->objectName(), "cmdOK");
                                 QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
                             },
                             Press(QMessageBox::Ok)};
