@@ -78,7 +78,7 @@ void ShowText(QLineEdit* line, const QString& text) {
     const bool isAtEnd = line->cursorPosition() == line->text().size();
     const int caret = line->cursorPosition();
     line->setText(text);
-    line->setCursorPosition(isAtEnd ? text.size() : caret);
+    line->setCursorPosition(isAtEnd ? static_cast<int>(text.size()) : caret);
     if (isEmptied) line->selectAll();
 }
 
