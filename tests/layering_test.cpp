@@ -75,6 +75,16 @@ void Reach(Arrows& arrows, const std::string& from, std::set<std::string>& seen)
     }
 }
 
+/// Adds each file or folder from which the arrows lead back to itself.
+void AddRings(Arrows& arrows, Faults& faults) {
+    const auto all = arrows;
+    for (const auto& [from, targets] : all) {
+        std::set<std::string> reached;
+        Reach(arrows, from, reached);
+        if (reached.contains(from)) faults.insert(from + ": includes itself");
+    }
+}
+
 Faults FaultsOf(const Tree& tree) {
     static const std::regex include(R"(^[ \t]*#[ \t]*include[ \t]*[<"]([^>"\r\n]+)[>"])",
                                     std::regex::multiline);
@@ -89,11 +99,14 @@ Faults FaultsOf(const Tree& tree) {
             if (!target.empty()) arrows[path].insert(target);
         }
     }
-    for (const auto& [path, text] : tree) {
-        std::set<std::string> reached;
-        Reach(arrows, path, reached);
-        if (reached.contains(path)) faults.insert(path + ": includes itself");
+    AddRings(arrows, faults);
+    Arrows folders;
+    for (const auto& [path, targets] : arrows) {
+        for (const auto& target : targets) {
+            if (FolderOf(target) != FolderOf(path)) folders[FolderOf(path)].insert(FolderOf(target));
+        }
     }
+    AddRings(folders, faults);
     return faults;
 }
 

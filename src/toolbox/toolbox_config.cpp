@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "toolbox/toolbox_config.h"
 
+#include <algorithm>
 #include <cstdint>
+#include <iterator>
 #include <limits>
 #include <string>
 
+#include "catalogue/box_commands.h"
 #include "catalogue/icon_table.h"
 #include "commands/worksheet_events.h"
 #include "platform/desktop.h"
@@ -16,8 +19,10 @@ namespace quorvane {
 
 ConfigToolboxForm frmConfigToolbox;
 
+namespace {
+
 // clang-format off
-const std::vector<std::string_view> toolboxCatalogue = {
+constexpr std::string_view pageOrder[] = {
     "Arrow", "Dummy Input", "Keyboard Input", "Matrix Input", "Matrix Make Input", "Vector Make Input",
     "Constant Input", "Ascii File Input", "Screen Output", "Plot Output", "Ascii File Output", "Trash",
     "Comment", "Basic Arithmatic", "Compute Function", "Natural Logarithm", "Square Root", "Matrix Manipulation",
@@ -31,6 +36,22 @@ const std::vector<std::string_view> toolboxCatalogue = {
     "String Compare", "String Convert", "Check",
 };
 // clang-format on
+
+/// The keys of the commands in the order of the pages; those that have no place there follow.
+std::vector<std::string_view> MakeCatalogue() {
+    std::vector<std::string_view> keys(std::begin(pageOrder), std::end(pageOrder));
+    for (const auto& command : boxCommands) {
+        for (const auto key : command.ToolboxKeys) {
+            const bool isNew = std::find(keys.begin(), keys.end(), key) == keys.end();
+            if (!key.empty() && isNew) keys.push_back(key);
+        }
+    }
+    return keys;
+}
+
+}  // namespace
+
+const std::vector<std::string_view> toolboxCatalogue = MakeCatalogue();
 
 namespace {
 
