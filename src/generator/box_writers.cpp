@@ -106,7 +106,7 @@ bool WriteFileInput(Run& run, int box, int /*slot*/) {
     name = FileNameOf(path);
     if (path.size() >= ending && path[path.size() - ending] == '.') {
         WriteLine(run, "load " + path + ";");
-        name.resize(name.size() - std::min(ending, name.size()));
+        name.erase(name.size() - std::min(ending, name.size()));
     } else {
         WriteLine(run, "load " + path + " -ascii ;");
     }
