@@ -93,7 +93,6 @@ std::vector<Finding> CheckDocument(int document) {
         if (Boxes[i].BoxDocument == document) check.Own.push_back(i);
     }
     FindReached(check);
-    FindWords(check);
     for (const int box : check.Own) CheckOne(check, box);
     CheckBlocks(check);
     // What only a run shows, when nothing explains a stop yet.

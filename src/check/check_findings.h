@@ -17,7 +17,7 @@ struct Check {
     bool Stops = false;         ///< A finding keeps the run from its end or a box from the script
     std::vector<int> Own;       ///< The boxes of the document
     std::vector<bool> Reached;  ///< By number: the arrows lead to it from a start
-    std::vector<std::string_view> Words;  ///< The names in the texts of its boxes, in order
+    std::vector<std::string_view> Words;  ///< The names in its texts, in order, once asked for
 };
 
 /// Adds a finding about a box, or with 0 about the diagram.

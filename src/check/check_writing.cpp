@@ -15,27 +15,7 @@ namespace {
 
 bool IsNameLetter(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
 
-/// True when a text of a box mentions a variable, and so may set it.
-bool IsMentioned(const Check& check, const std::string& name) {
-    return std::binary_search(check.Words.begin(), check.Words.end(), name);
-}
-
-/// True when a box of the document sets the variable that a Pickup names: its own, or what it
-/// loads, which is called as its file is.
-bool IsSet(const Check& check, std::string_view name, int pickup) {
-    int number = 0;
-    if (name.starts_with("box"))
-        std::from_chars(name.data() + 3, name.data() + name.size(), number);
-    if (IsThere(number) && number != pickup && name == BoxName(number) &&
-        Boxes[number].BoxDocument == check.Document && SetsItsVariable(Boxes[number])) {
-        return true;
-    }
-    return std::any_of(check.Own.begin(), check.Own.end(),
-                       [](int each) { return Boxes[each].BoxType == "Ascii File Input"; });
-}
-
-}  // namespace
-
+/// Gathers the names that the texts of the boxes mention.
 void FindWords(Check& check) {
     for (const int box : check.Own) {
         if (IsPassive(Boxes[box])) continue;
@@ -54,6 +34,28 @@ void FindWords(Check& check) {
     }
     std::sort(check.Words.begin(), check.Words.end());
 }
+
+/// True when a text of a box mentions a variable, and so may set it.
+bool IsMentioned(Check& check, const std::string& name) {
+    if (check.Words.empty()) FindWords(check);
+    return std::binary_search(check.Words.begin(), check.Words.end(), name);
+}
+
+/// True when a box of the document sets the variable that a Pickup names: its own, or what it
+/// loads, which is called as its file is.
+bool IsSet(const Check& check, std::string_view name, int pickup) {
+    int number = 0;
+    if (name.starts_with("box"))
+        std::from_chars(name.data() + 3, name.data() + name.size(), number);
+    if (IsThere(number) && number != pickup && name == BoxName(number) &&
+        Boxes[number].BoxDocument == check.Document && SetsItsVariable(Boxes[number])) {
+        return true;
+    }
+    return std::any_of(check.Own.begin(), check.Own.end(),
+                       [](int each) { return Boxes[each].BoxType == "Ascii File Input"; });
+}
+
+}  // namespace
 
 void CheckEntries(Check& check, int number) {
     const Box& box = Boxes[number];

@@ -7,8 +7,6 @@ namespace quorvane {
 
 // What a box writes: its entries, its text and the row of its type.
 
-/// Gathers the names that the texts of the boxes mention.
-void FindWords(Check& check);
 void CheckEntries(Check& check, int number);
 void CheckText(Check& check, int number);
 void CheckPickup(Check& check, int number);

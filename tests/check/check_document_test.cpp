@@ -65,17 +65,11 @@ TEST_F(CheckTest, PlantedFaults) {
 
 TEST_F(CheckTest, WhateverDoesNotEndWellIsFound) {
     for (const char* const table : {"generator/walk.tsv", "generator/control_flow.tsv"}) {
-        const auto rows = ReadTable(table);
-        for (auto row = rows.begin(); row != rows.end();) {
-            const auto& expected = *row;
-            Restart();
-            for (++row; row != rows.end() && row->front().empty(); ++row) {
-                Draw({{(*row)[1], Crlf((*row)[2]), Numbers((*row)[3]), Numbers((*row)[4])}});
-            }
+        ForEachDiagram(table, [&](const Texts& expected) {
             const bool endsWell = expected[2] == "Done !" && std::atoi(expected[3].c_str()) == 0;
             const auto found = Check();
-            EXPECT_TRUE(endsWell || !found.empty()) << expected.back();
-        }
+            EXPECT_TRUE(endsWell || !found.empty());
+        });
     }
 }
 

@@ -69,8 +69,9 @@ protected:
         for (int i = 0; i < NextBox; ++i) EXPECT_EQ(Boxes[i].BoxMark, "") << "box" << i;
     }
 
-    /// Compiles each diagram of a table twice, to text and where its row says so to MATLAB.
-    void CheckDiagrams(const char* table) {
+    /// Draws each diagram of a table and has it examined, with the row that tells what is expected.
+    template <class Examine>
+    void ForEachDiagram(const char* table, Examine&& examine) {
         const auto rows = ReadTable(table);
         for (auto row = rows.begin(); row != rows.end();) {
             const auto& expected = *row++;
@@ -79,10 +80,16 @@ protected:
             for (; row != rows.end() && row->front().empty(); ++row) {
                 Draw({{(*row)[1], Crlf((*row)[2]), Numbers((*row)[3]), Numbers((*row)[4])}});
             }
+            examine(expected);
+        }
+    }
+    /// Compiles each diagram of a table twice, to text and where its row says so to MATLAB.
+    void CheckDiagrams(const char* table) {
+        ForEachDiagram(table, [&](const Texts& expected) {
             for (const int mode : {1, 1, 0, 0}) {
                 if (mode == 1 || !expected[5].empty()) CheckRun(mode, expected);
             }
-        }
+        });
     }
 
 private:
