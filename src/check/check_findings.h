@@ -17,6 +17,8 @@ struct Check {
     bool Stops = false;         ///< A finding keeps the run from its end or a box from the script
     std::vector<int> Own;       ///< The boxes of the document
     std::vector<bool> Reached;  ///< By number: the arrows lead to it from a start
+    /// By number: the first feeder that isn't reached, which the walk doesn't pass by; 0 for none.
+    std::vector<int> UnreachedFeeder;
     std::vector<std::string_view> Words;  ///< The names in its texts, in order, once asked for
 };
 

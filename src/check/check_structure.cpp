@@ -29,8 +29,7 @@ std::vector<int> Successors(int number) {
     return behind;
 }
 
-/// The first feeder that is unreached itself, 0 for none.
-int UnreachedFeeder(const Check& check, int number) {
+int FindUnreachedFeeder(const Check& check, int number) {
     const auto& feeders = Boxes[number].BoxIn;
     const auto* feeder = std::find_if(feeders.begin(), feeders.end(), [&](int each) {
         return IsThere(each) && !IsPassive(Boxes[each]) && !IsReached(check, each);
@@ -40,11 +39,12 @@ int UnreachedFeeder(const Check& check, int number) {
 
 /// True for the box with which a chain of unreached boxes begins; in a ring, for its lowest number.
 bool BeginsUnreached(const Check& check, int number) {
-    int before = UnreachedFeeder(check, number);
+    const auto feeder = [&](int box) {
+        return check.UnreachedFeeder[static_cast<std::size_t>(box)];
+    };
+    int before = feeder(number);
     if (before == 0) return true;
-    for (int steps = 0; before > number && steps < MaxBoxes; ++steps) {
-        before = UnreachedFeeder(check, before);
-    }
+    for (int steps = 0; before > number && steps < MaxBoxes; ++steps) before = feeder(before);
     return before == number;
 }
 
@@ -146,6 +146,9 @@ void FindReached(Check& check) {
         if (IsReached(check, box)) continue;
         check.Reached[static_cast<std::size_t>(box)] = true;
         for (const int behind : Successors(box)) waiting.push_back(behind);
+    }
+    for (int i = 0; i <= MaxBoxes; ++i) {
+        check.UnreachedFeeder.push_back(FindUnreachedFeeder(check, i));
     }
 }
 
