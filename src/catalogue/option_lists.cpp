@@ -10,7 +10,7 @@ namespace quorvane {
 // clang-format off
 // Dialog, caption, frame's caption, default open entries,
 //     {index, caption, type, text, open entries, own name}
-// Captions and keys that do not match, and rows that no button reaches, are as diagrams know them.
+// Mismatched captions and keys, and rows that no button reaches, stay: saved diagrams hold them.
 const std::vector<OptionList> optionLists = {
     {"frmBasic", "Basic Arithmatic", "Choose a function", "123", {
         {NoIndex, "+", "+", "{field}", "123", "add"},

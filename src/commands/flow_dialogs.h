@@ -7,7 +7,7 @@
 
 namespace quorvane {
 
-/// The dialogs and prompts of the boxes that steer a script: loops, branches, pauses, questions,
+/// The dialogs and prompts of the control-flow boxes: loops, branches, pauses, questions,
 /// subroutines, comments. Each Complete routine runs its dialog for the armed box of that number
 /// and packs what was typed into BoxText; nothing is checked for being valid script, and a
 /// cancelled prompt gives an empty text.
@@ -68,9 +68,9 @@ struct PauseForm {
 };
 extern PauseForm frmPause;
 void frmPause_Load();
-/// Keeps the seconds a number from 0 up.
+/// Keeps the seconds at a number of 0 or more.
 void frmPause_lblSecs_Change();
-/// Adds or takes one second and lets the control go.
+/// Adds or subtracts one second and resets the spin control.
 void frmPause_spn_Change();
 void frmPause_chkNoNumber_Click();
 void frmPause_cmdOK_Click();

@@ -87,7 +87,7 @@ void frmFunc_opnInput_Click(int Index) {
 
 namespace {
 
-/// What is typed into a cell's row or column asks for a cell.
+/// Typing a row or a column selects the output of a single cell.
 void CellChanged(TextBox& field) {
     frmFunc.chkcell.Value = 1;
     if (!IsNumeric(field.Text)) field.Text = "";
@@ -146,7 +146,7 @@ bool LockUnusedInputs(Box& box) {
 
 void CompleteFunction(int box) {
     frmFunc_Load();
-    // The dialog comes up with a cell asked for: filling its row and column is a change of them.
+    // The dialog starts with a cell selected: setting its row and column counts as a change.
     frmFunc.txtRow.Text = "1";
     frmFunc_txtRow_Change();
     frmFunc.txtCol.Text = "1";

@@ -45,7 +45,7 @@ void frmFunc_opnInput_Click(int Index);
 void frmFunc_txtRow_Change();
 void frmFunc_txtCol_Change();
 void frmFunc_cmdMatlab_Click();
-/// Warns of a cell without its row or column, and hides all the same.
+/// Warns when a cell lacks its row or column, and hides anyway.
 void frmFunc_cmdOK_Click();
 Form frmFunc_Table();
 void CompleteFunction(int box);

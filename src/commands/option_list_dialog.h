@@ -13,7 +13,7 @@ namespace quorvane {
 /// Rows of the longest list.
 constexpr int MaxOptions = 14;
 
-/// The one record of all these dialogs: one stands at a time.
+/// The record that all these dialogs share: only one is open at a time.
 struct OptionListForm {
     FormState Form;
     const OptionList* List = nullptr;

@@ -35,7 +35,7 @@ int MarkedInput(int axis) {
     return 0;
 }
 
-/// Of all axes, Z alone finds input 3, and only for the plots of three axes.
+/// Only the Z axis finds input 3, and only in plots with three axes.
 int MarkedOnZ() {
     for (int input = 1; input <= 3; ++input) {
         if (Marked(input, Z)) return input;
@@ -86,7 +86,7 @@ bool ComposeLines(const GraphType&, std::string& script) {
     return true;
 }
 
-/// The marks are asked for, but the text holds a style alone.
+/// The marks are required, but only a style is written.
 bool ComposeStyleAlone(const GraphType& type, std::string& script) {
     const int y = MarkedInput(Y);
     if (y == 0) return Refuse(NoY);

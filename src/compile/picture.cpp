@@ -62,7 +62,7 @@ bool IsCharacter(std::string_view text, std::size_t at, std::size_t& length) {
            !(first == 0xF0 && second < 0x90) && !(first == 0xF4 && second > 0x8F);
 }
 
-/// A text of a box as character data. Bytes that are none of a text show as a question mark.
+/// A text of a box as character data. Invalid bytes show as a question mark.
 std::string CharacterData(std::string_view text) {
     std::string data;
     for (std::size_t at = 0, length = 1; at < text.size(); at += length) {
@@ -89,7 +89,7 @@ std::string PenAttributes(const DrawnShape& shape) {
            Attribute("stroke-width", NumberText(shape.Width));
 }
 
-/// The legs of an arrow: a line, and the upright one that goes on from its end, if any. Lines
+/// The legs of an arrow: a line, and the vertical one that continues it, if any. Lines
 /// along an axis cover whole pixels, so that they are sharp at the size of the screen and of one
 /// width at any other.
 std::string LegsElement(const DrawnShape& first, const DrawnShape* second) {

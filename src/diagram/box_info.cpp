@@ -38,7 +38,7 @@ SlotCount ShowPeers(const Slots& slots, Labels& labels, Checks& checks) {
     return count;
 }
 
-/// The pieces bring their own blanks, two or none in the middle.
+/// Each piece brings its own blanks, so that the middle has two or none.
 std::string EmptySlotsText(int entries, int exits) {
     std::string text;
     if (entries == 0) text = "There are no empty inputs, ";
@@ -83,7 +83,7 @@ void BreakExit(int number, int exit) {
     slot = 0;
 }
 
-/// Does what is ticked, whether its check box shows or not.
+/// Carries out what is ticked, whether or not its check box is visible.
 void ChangeBox(int number) {
     for (int i = 1; i <= 3; ++i) {
         if (frmInfo.chkFrom[i].Value == 1) BreakEntry(number, i);
@@ -175,7 +175,7 @@ Form frmInfo_Table() {
 void ShowBubble(Worksheet& sheet, int number) {
     auto& bubble = sheet.txtboxname;
     const Box& box = Boxes[number];
-    // A comment's bubble never says the type alone, so it is worked out anew at each move.
+    // A comment's bubble never equals the type, so it is updated at each move.
     if (!sheet.mnuOptionsBubbleShow.Checked || box.BoxType == bubble.Caption) return;
     bubble.Caption = box.BoxType == "Comment" ? "Comment: " + box.BoxText : box.BoxType;
     const auto& control = sheet.box[number];

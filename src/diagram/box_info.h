@@ -8,9 +8,9 @@
 
 namespace quorvane {
 
-/// The dialog that tells what a box is connected to. What is ticked is done after OK; a new colour
-/// at once. After Cancel it stays loaded, so that the next opening shows the ticks again, and those
-/// of check boxes that are hidden by then take effect, too.
+/// The dialog that tells what a box is connected to. OK carries out what is ticked; a new colour
+/// takes effect at once. After Cancel it stays loaded, so that the next opening shows the ticks
+/// again, and those of check boxes that are hidden by then take effect too.
 struct InfoForm {
     FormState Form = {.Caption = "Box Information"};
     Label lblBoxName;

@@ -7,7 +7,7 @@ namespace quorvane {
 
 /// Two boxes are joined by a click on the source and one on the destination.
 
-/// Enters the arrow mode: boxes get an arrow for a pointer, the worksheets around them the no-drop
+/// Enters arrow mode: over boxes the pointer is an arrow, over the worksheets the no-drop
 /// sign.
 void BeginArrow();
 

@@ -58,7 +58,7 @@ void Disconnect(int number) {
     }
 }
 
-/// The reach of the scan is that of the text as it was: a replacement never makes it longer.
+/// The scan's limit comes from the original length: a replacement never makes the text longer.
 void RenameReferences(std::string& text, const std::string& from, const std::string& to) {
     const int last = LastPosition(text, from);
     for (int at = 0; at <= last && at < static_cast<int>(text.size()); ++at) {
@@ -93,7 +93,7 @@ void MoveControl(const Deletion& d) {
     Attempt([&] { DocumentWindow(d.LastDocument).box[d.Number].Visible = true; });
 }
 
-/// Takes the box out of the table and off the screen.
+/// Removes the box from the table and from the screen.
 void Remove(const Deletion& d) {
     Attempt([&] { DocumentWindow(d.Document).box[d.Number].Visible = false; });
     if (d.Number < d.Last) {

@@ -29,7 +29,8 @@ void ForEachBoxOf(Worksheet& sheet, Action&& action) {
     }
 }
 
-/// When the bar has reached its end. The page ends where the bar does, also where it can't grow.
+/// Grows a bar that stands at its maximum. The page ends where the bar does, even when it can't
+/// grow.
 void GrowAtEnd(SheetScrollBar& bar, std::int32_t& page) {
     if (bar.Value != bar.Max) return;
     Attempt([&] { bar.Max = ToInt16(bar.Max + Growth); });

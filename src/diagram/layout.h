@@ -15,7 +15,7 @@ extern std::int32_t PageBottom;
 /// Runs once for each new worksheet window.
 void main_Load(Worksheet& sheet);
 
-/// Lays the bars out by ScaleWidth and ScaleHeight, which the screen has written. A minimised
+/// Arranges the bars by ScaleWidth and ScaleHeight, which the screen has written. A minimised
 /// window only becomes the CurrentDocument. An extent that would be negative stays as it was.
 void main_Resize(Worksheet& sheet);
 

@@ -15,7 +15,7 @@ void UnloadElement(Worksheet& window, int number) {
     if (number != 0) window.box.Unload(number);
 }
 
-/// Takes back record NextBox, as if a pending arrow had made one. The last box in use is then the
+/// Drops record NextBox, as if a pending arrow had created one. The last box in use is then the
 /// one that is written next.
 void DropNextBox(Worksheet& sheet) {
     Attempt([&] { UnloadElement(sheet, NextBox); });
@@ -47,7 +47,7 @@ void CountNewBox() {
     NextBox = MaxBoxes;
 }
 
-/// Takes a box over from the document in which it was armed.
+/// Moves a box here from the document in which it was armed.
 void BringHere(Worksheet& sheet, int number) {
     const auto document = DocumentNumber(sheet);
     Box& box = Boxes[number];

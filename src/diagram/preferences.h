@@ -14,8 +14,8 @@ namespace quorvane {
 /// the program starts.
 extern std::string ProgramDirectory;
 
-/// The preferences dialog. It is never unloaded: its controls are the live preferences, which all
-/// parts read.
+/// The preferences dialog. It is never unloaded: its controls are the current preferences, which
+/// all parts read.
 struct PreferencesForm {
     FormState Form = {.Caption = "Prefrences"};
     ScrollBar sclWidth = {.Value = 1, .Min = 1, .Max = 4};

@@ -17,7 +17,7 @@ std::int16_t SelectionTop = 0;
 
 namespace {
 
-/// Draws one pair of edges to the mouse; `start` is the left or upper one.
+/// Moves one pair of edges to the mouse; `start` is the left or upper one.
 void Stretch(double& start, double& extent, double mouse) {
     if (mouse > start) {
         extent = mouse - start;
@@ -115,7 +115,7 @@ void EndSelection(Worksheet& sheet) {
             }
         }
     }
-    // Far out on the sheet the corner doesn't fit its 16 bits; the one before stays then.
+    // Far out on the sheet the corner doesn't fit into 16 bits; it then stays unchanged.
     Attempt([&] { SelectionLeft = ToInt16(sheet.scrH.Value + sheet.shpCopy.Left); });
     Attempt([&] { SelectionTop = ToInt16(sheet.scrV.Value + sheet.shpCopy.Top); });
 }
@@ -158,7 +158,8 @@ void CopyBox(Worksheet& sheet, int number) {
         Box& to = Boxes[copy];
         to.BoxType = from.BoxType;
         to.BoxMark = from.BoxMark;
-        // The picture comes before the text, so that a plot or a diagonal doesn't get its own one.
+        // The picture is chosen before the text is copied, so a plot or a diagonal doesn't get its
+        // own.
         Attempt([&] { GiveIcon(sheet.box[copy], BoxIconKey(copy)); });
         to.BoxText = from.BoxText;
         to.BoxIn = from.BoxIn;

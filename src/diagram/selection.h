@@ -16,7 +16,7 @@ extern GrowableArray<std::int16_t> SelectedBoxes;
 extern std::int16_t SelectionLeft;
 extern std::int16_t SelectionTop;
 
-/// Shows the selection rectangle at (X, Y), or draws its edges there. The corner at which it began
+/// Shows the selection rectangle at (X, Y), or moves its edges there. The corner at which it began
 /// isn't remembered: a left or upper edge stays at the farthest point reached.
 void StretchSelection(Worksheet& sheet, double X, double Y);
 

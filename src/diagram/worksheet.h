@@ -67,7 +67,7 @@ struct Bubble {
     bool Visible = false;
 };
 
-/// The panel of the guided tour; a click on it goes a step on.
+/// The panel of the guided tour; a click on it shows the next step.
 struct TourPanel {
     std::string Caption;
     bool Visible = false;

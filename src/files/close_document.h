@@ -5,8 +5,8 @@
 
 namespace quorvane {
 
-/// Closes a document: asks to save its changes, deletes its boxes from the table and takes its
-/// window down. False when the user cancels: the window then stays, but its number counts as free.
+/// Closes a document: asks to save its changes, deletes its boxes from the table and removes its
+/// window. False when the user cancels: the window then stays, but its number counts as free.
 /// Error 9 or 91 for a document without a window.
 bool CloseDocument(int document);
 

@@ -45,7 +45,7 @@ struct Load {
     }
 };
 
-/// Takes the fields of a line from left to right; behind the last one they are empty.
+/// Reads the fields of a line from left to right; after the last one they are empty.
 struct Fields {
     std::string_view Rest;
 

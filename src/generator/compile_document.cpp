@@ -41,7 +41,7 @@ void AddStartBoxes(const Run& run) {
     }
 }
 
-/// Only slots 1 to 5 tell whether there is anything to start with.
+/// Only slots 1 to 5 decide whether there is anything to start with.
 bool HasStartBox() {
     for (int slot = 1; slot <= 5; ++slot) {
         if (Front[slot] != 0) return true;
@@ -49,8 +49,8 @@ bool HasStartBox() {
     return false;
 }
 
-/// The first line of a box stands one step further in for each open block. Blanks that a box left
-/// behind without writing serve the next one.
+/// The first line of a box is indented one step for each open block. Blanks that a box left
+/// behind without writing are used by the next one.
 void Indent(Run& run) {
     if (run.scriptText.ends_with(IndentStep)) return;
     for (int depth = 0; depth < nestingDepth; ++depth) run.scriptText += IndentStep;

@@ -18,7 +18,7 @@ bool MayOpen(Run& run, int box) {
     return ready && alone;
 }
 
-/// Takes one level of indentation back: a closing box has got that of the inside of its block.
+/// Removes one level of indentation: a closing box has been given that of its block.
 void Strip(Run& run) {
     if (run.scriptText.ends_with("   ")) run.scriptText.resize(run.scriptText.size() - 3);
 }

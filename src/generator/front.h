@@ -29,7 +29,7 @@ bool IsFrontEmpty();
 /// ignored; 0 counts as present while a slot is free. With no free slot the front grows by 5.
 void AddToFront(std::int16_t box);
 
-/// Takes a slot out: the slots behind it move down by one.
+/// Removes a slot: the slots behind it move down by one.
 void RemoveFromFront(int slot);
 
 /// True when every box that feeds `box` is done. On the way every "Pickup" that feeds it writes its

@@ -11,7 +11,7 @@
 
 namespace quorvane {
 
-/// What one run of the generator holds beside the front.
+/// The state of one run of the generator, apart from the front.
 struct Run {
     std::int16_t Mode = 1;      ///< 1 to text, 0 to MATLAB
     std::int16_t Document = 0;  ///< The document whose start boxes begin the walk
@@ -23,7 +23,7 @@ struct Run {
     int plotPrefixSent = 0;  ///< 1 once the first plot has gone to MATLAB
     /// What a failing statement does; some boxes turn it to Ignore for the rest of the run.
     ErrorPolicy Policy = ErrorPolicy::Fatal;
-    /// The text that the boxes put together aside; a box without a text of its own finds the last
+    /// Scratch text that some boxes assemble; a box that assembles none sees the previous
     /// one.
     std::string workText;
 };
@@ -35,7 +35,7 @@ void WriteLine(Run& run, std::string_view text);
 /// free record.
 const Box& ReadBox(const Run& run, int number);
 
-/// Takes the marks off all boxes, as every way out of a run does.
+/// Clears the marks of all boxes, as every way out of a run does.
 void ClearMarks();
 
 /// InputsReady under the run's policy; a failing test counts as not ready.

@@ -32,7 +32,7 @@ void frmMatlab_lstFunc_Click();
 /// Scans the drives and lists the files of the chosen category anew. The categories of the dialog
 /// stay as they were until it is opened again.
 void frmMatlab_cmdRescn_Click();
-/// Hands the name of the selected function, or "" when none is selected, to who opened the dialog.
+/// Hands the name of the selected function, or "" when none is selected, to the caller.
 void frmMatlab_cmdOK_Click();
 /// The user closes the window: nothing is handed over.
 void frmMatlab_Close();

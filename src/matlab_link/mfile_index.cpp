@@ -46,7 +46,7 @@ ScanningForm frmScanning;
 
 namespace {
 
-/// What the kernel shows of itself: no place for M-files, and without an end.
+/// The kernel's own trees: they hold no M-files and have no end.
 constexpr std::string_view kernelTrees[] = {"/proc", "/sys", "/dev", "/run"};
 
 struct FolderContents {
@@ -93,7 +93,7 @@ void Keep(FolderContents& contents, int folder, const dirent64& entry) {
     }
 }
 
-/// Asks the kernel itself, many entries at a time: a scan does little else than this.
+/// Reads many entries with one system call: a scan spends most of its time here.
 void ReadEntries(const std::string& path, FolderContents& contents) {
     alignas(dirent64) static char buffer[65536];
     const int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
@@ -168,7 +168,7 @@ void AddFiles(std::string& index, const std::string& path, const std::vector<std
 }
 
 /// The elements without a path are listed with the files of the last folder, since that is where
-/// looking through the folders ends.
+/// the walk through the folders ends.
 void AddAllFiles(std::string& index) {
     const auto& last = DirectoryList[DirectoryList.UpperBound()].MFiles;
     AddFiles(index, "", last);

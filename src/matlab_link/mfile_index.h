@@ -50,7 +50,7 @@ void ScanDirectory(const std::string& path);
 /// index. Failures are dropped.
 void WriteMFileIndex();
 
-/// The window that shows how far a scan is. It begins to work when it has come to the screen, and
+/// The window that shows a scan's progress. The scan starts once it is on the screen, and it
 /// unloads itself at the end.
 struct ScanningForm {
     FormState Form = {.Caption = "Quorvane", .MousePointer = PointerHourglass};

@@ -78,7 +78,7 @@ bool Fill(OpenFile& file) {
     return file.Filled > 0;
 }
 
-/// A file beside `path` that nobody else has, opened for writing, as private as the one at `path`.
+/// Creates a temporary file beside `path`, with the permissions of the one there, for writing.
 Stream CreateAside(const fs::path& path, fs::path& aside) {
     std::random_device random;
     for (int attempt = 1; attempt <= 100; ++attempt) {
@@ -95,7 +95,7 @@ Stream CreateAside(const fs::path& path, fs::path& aside) {
     throw RuntimeError(75);
 }
 
-/// Replacing a file would go round its write protection, so the protection is looked at first.
+/// Renaming over a file ignores its write protection, so that is checked first.
 void RefuseIfReadOnly(const fs::path& path, const fs::file_status& status) {
     if (!fs::exists(status)) return;
     const Stream probe(std::fopen(path.string().c_str(), "r+b"));
@@ -105,7 +105,7 @@ void RefuseIfReadOnly(const fs::path& path, const fs::file_status& status) {
 bool FlushToDisk(std::FILE* stream) {
     if (std::fflush(stream) != 0) return false;
 #ifdef QUORVANE_HAS_FSYNC
-    // Some file systems have no such thing; only a real failure to store counts.
+    // Some file systems do not support this; only a real failure to store counts.
     if (fsync(fileno(stream)) != 0 && errno != EINVAL && errno != EROFS) return false;
 #endif
     return true;
@@ -152,7 +152,7 @@ bool EndOfFile(int number) { return !Fill(Opened(number)); }
 
 namespace {
 
-/// Reads up to one of `ends` and past it, CR LF counting as one.
+/// Reads up to and including one of `ends`; CR LF counts as one.
 std::string_view ReadUpTo(int number, const char* ends) {
     auto& file = Opened(number);
     if (!Fill(file)) throw RuntimeError(62);

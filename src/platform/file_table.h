@@ -34,9 +34,9 @@ bool LineGoesOn(int number);
 void CloseFile(int number);
 void CloseAllFiles();
 
-/// Puts a file with this text, and no other, in the place of the one at `path`. The text goes to a
+/// Replaces the file at `path` by one with this text. The text goes to a
 /// new file beside it, which takes its place when all is stored: a full disk or a kill leaves the
-/// old file whole, and who is reading it goes on reading the old one. A device or a pipe is written
+/// old file whole, and a reader keeps reading the old one. A device or a pipe is written
 /// to. Error 75 when the file or its folder can't be written, 61 when the disk is full, 57 for any
 /// other failure.
 void ReplaceFile(const std::string& path, std::string_view text);

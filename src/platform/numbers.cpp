@@ -81,7 +81,7 @@ double TextToNumber(std::string_view text) {
     double value = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
     if (result.ec == std::errc::result_out_of_range) {
-        // Too small is as good as zero, too large is an overflow; only the library tells which it
+        // Too small counts as zero, too large is an overflow; only the library can tell which it
         // is.
         value = std::strtod(std::string(text).c_str(), nullptr);
         if (std::isinf(value)) throw RuntimeError(6);

@@ -21,7 +21,7 @@ double TextToNumber(std::string_view text);
 std::int16_t ToInt16(double value);
 std::int32_t ToInt32(double value);
 
-/// TextToNumber and the rounding in one; whole numbers take a short way.
+/// TextToNumber with rounding; whole numbers take a fast path.
 std::int16_t TextToInt16(std::string_view text);
 std::int32_t TextToInt32(std::string_view text);
 

@@ -22,7 +22,7 @@ namespace {
 
 constexpr std::uintmax_t LargestFile = 16 * 1024 * 1024;
 
-/// What a line says: it begins a section, or gives a key a value. Any other says nothing.
+/// What a line is: a section header, a key with its value, or neither.
 struct Meaning {
     std::optional<std::string> Section;
     std::optional<std::string> Key;
@@ -71,7 +71,7 @@ std::optional<std::vector<std::string>> ReadLines(const std::string& path) {
     return LinesOf({std::istreambuf_iterator<char>(file), {}});
 }
 
-/// Where a key stands in the lines of a file, and where its line would go.
+/// The line of a key in a file, and where a new one would be inserted.
 struct Place {
     std::optional<std::size_t> Line;    ///< Of the key
     std::optional<std::size_t> Behind;  ///< One behind the section's last key or header

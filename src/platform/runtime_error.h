@@ -49,7 +49,7 @@ bool Attempt(Statement&& statement) {
     return Attempt(ErrorPolicy::Ignore, std::forward<Statement>(statement));
 }
 
-/// Works out a value under `policy`; under Ignore a failure gives `fallback` in its place.
+/// Computes a value under `policy`; under Ignore a failure gives `fallback` instead.
 template <class Value, class Expression>
 Value AttemptValue(ErrorPolicy policy, Value fallback, Expression&& expression) {
     Attempt(policy, [&] { fallback = std::forward<Expression>(expression)(); });

@@ -116,7 +116,7 @@ void BoxView::Click() {
     Dispatch([&] { box_Click(Sheet(), number_); });
 }
 
-/// Enter or the blank clicks the box; with Shift they ask for its information.
+/// Enter or Space clicks the box; with Shift they open its information.
 void BoxView::keyPressEvent(QKeyEvent* event) {
     const auto key = event->key();
     if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space) {

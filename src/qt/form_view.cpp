@@ -47,7 +47,7 @@ constexpr int PreviewPixels = 64;
 
 bool HasGreatestWidth(const QWidget* control) { return control->maximumWidth() < QWIDGETSIZE_MAX; }
 
-/// What the control leaves out of a long text stands in its tool tip.
+/// The tool tip holds the whole of a long text that the control shows in part.
 void TellWhole(QWidget* control, const QString& shown, const QString& whole) {
     control->setAccessibleName(whole);
     control->setToolTip(shown == whole ? QString() : "<p>" + whole.toHtmlEscaped() + "</p>");
@@ -156,7 +156,7 @@ void Show(const ComboBox& record, QWidget* control) {
     }
     ShowChoice(combo, ToScreen(record.Text));
     combo->setEnabled(record.Enabled);
-    // Where there is nothing to choose there is nothing to show, as with drives on this platform.
+    // A list without entries is hidden, as that of the drives is on this platform.
     combo->setVisible(combo->isEditable() || !record.List.empty());
 }
 

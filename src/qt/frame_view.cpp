@@ -150,7 +150,7 @@ void FrameView::OpenWindow(int document) {
     window->show();
 }
 
-/// Takes down the windows whose documents are gone.
+/// Removes the windows whose documents are gone.
 void FrameView::CloseMissing() {
     for (auto* window : area_->subWindowList()) {
         const int document = static_cast<WorksheetView*>(window->widget())->Document();

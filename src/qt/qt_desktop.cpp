@@ -129,7 +129,7 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
                        const std::string& fileName) {
     QFileDialog dialog(Parent());
     dialog.setAcceptMode(mode);
-    // A name without a file is for the program to refuse, which has its own words for it.
+    // The program refuses a missing file itself, in its own words.
     dialog.setFileMode(QFileDialog::AnyFile);
     if (QGuiApplication::platformName() == "offscreen") {
         dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -249,7 +249,7 @@ void QtDesktop::SetClipboardText(const std::string& text) {
 }
 
 int QtDesktop::ClockSeconds() {
-    // Whoever waits by the clock must not keep the windows from being painted.
+    // Waiting by the clock must not keep the windows from being painted.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     QThread::msleep(10);
     return QTime::currentTime().second();

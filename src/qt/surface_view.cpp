@@ -145,8 +145,8 @@ QPoint SurfaceView::MovePointer(QPoint by) {
     return at;
 }
 
-/// The keyboard does what the mouse can: arrow keys move the pointer (with Ctrl by a pixel), with
-/// Shift they draw the selection, and Enter or the blank presses.
+/// The keyboard can do what the mouse does: arrow keys move the pointer (with Ctrl by a pixel),
+/// with Shift they draw the selection, and Enter or Space presses.
 void SurfaceView::keyPressEvent(QKeyEvent* event) {
     const int step = event->modifiers() & Qt::ControlModifier ? 1 : 15;
     const bool selects = event->modifiers() & Qt::ShiftModifier;

@@ -89,7 +89,7 @@ void ToolboxView::RefreshButtons() {
 
 void ToolboxView::closeEvent(QCloseEvent* event) {
     event->ignore();
-    // The worksheet, which comes to the front by this, takes the frame's mark over.
+    // The worksheet, which this brings to the front, copies the frame's check mark.
     Dispatch([] {
         UnloadToolbox();
         if (activeDocument > 0) main_Activate(DocumentWindow(activeDocument));

@@ -7,7 +7,7 @@
 
 namespace quorvane {
 
-/// The panel of the guided tour on a worksheet. A click, or Enter, goes a step on.
+/// The panel of the guided tour on a worksheet. A click, or Enter, shows the next step.
 class TourView : public QLabel {
 public:
     TourView(int document, QWidget* parent);

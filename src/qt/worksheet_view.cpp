@@ -85,7 +85,7 @@ void WorksheetView::MakeBars() {
     scrV_ = new QScrollBar(Qt::Vertical, this);
     scrV_->setObjectName("scrV");
     scrV_->setAccessibleName("Scroll up and down");
-    // A pull of the thumb counts once, where it ends: the sheet grows by one step at its end.
+    // Dragging the thumb reports only the final value, so that the sheet grows once.
     for (auto* bar : {scrH_, scrV_}) {
         bar->setTracking(false);
         bar->installEventFilter(this);

@@ -11,7 +11,7 @@ void mnuFileNew_Click();
 void mnuFileOpen_Click();
 /// End the program from the frame's menu and from a worksheet's, with the help viewer. The program
 /// stays when the closing of a worksheet is refused; the frame's command has then already taken
-/// the toolbox and the results of MATLAB down.
+/// the toolbox and the results window down.
 void mnuFileExit_Click();
 void mnuExit_Click();
 void mnuWindowsArrange_Click();

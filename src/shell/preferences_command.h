@@ -7,7 +7,7 @@
 namespace quorvane {
 
 /// Shows the preferences, and then brings every open document and the toolbox in line with them,
-/// however the dialog ended. The worksheet that gave the command is drawn anew.
+/// however the dialog ended. The worksheet that gave the command is redrawn.
 void mnuOptionsPrefs_Click(Worksheet& sheet);
 
 /// Loads the toolbox anew, by its new name and size.

@@ -21,7 +21,7 @@ namespace {
 
 constexpr int SplashSeconds = 3;
 
-/// How far the search for the settings file has come; Found is what a file's attributes read.
+/// The state of the search for the settings file; Found is the value of a file's attributes.
 enum SearchFlag : int { NotAsked = 0, Asked = 1, GivenUp = 2, Found = 32 };
 
 /// The seconds go back to 0 at the full minute, and a wait over it ends early.

@@ -100,7 +100,7 @@ void OpenToolboxFile(const std::string& path) {
     }
 }
 
-/// Takes the keys of the open file, up to its end or to a line that can't be read.
+/// Reads the keys of the open file, up to its end or to a line that can't be read.
 void ReadKeys() {
     Attempt([] {
         for (int i = 1; !EndOfFile(ToolboxFile);) {

@@ -156,7 +156,7 @@ std::size_t BehindLine(const std::string& text, std::size_t from) {
     return at == std::string::npos ? text.size() : at + LineEnd.size();
 }
 
-/// Takes a key out of the panel's text and moves the faces behind it up by one icon. The icon's
+/// Removes a key from the panel's text and moves the faces behind it up by one icon. The icon's
 /// index counts the keys: in a panel that began empty it is one too high.
 void RemoveKey(int index) {
     auto& caption = frmConfigToolbox.lbltoolbox.Caption;
