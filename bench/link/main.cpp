@@ -8,6 +8,7 @@
 #include "diagram/box_table.h"
 #include "files/document_file.h"
 #include "generator/output_targets.h"
+#include "matlab_link/link.h"
 #include "qt/frame_view.h"
 #include "qt/qt_desktop.h"
 #include "shell/application.h"
@@ -80,12 +81,12 @@ int main(int argc, char** argv) {
     const char* const octave = argc > 1 ? argv[1] : "/usr/bin/octave-cli";
     QElapsedTimer timer;
     timer.start();
-    screen.StartProcess(octave);
+    StartLink(octave);
     Report("start of the engine", Milliseconds(timer), 1000);
     timer.start();
     for (int i = 0; i < Sends; ++i) {
-        screen.LinkExecute("x=1;", {});
-        screen.LinkRequest();
+        LinkExecute("x=1;", {});
+        LinkRequest();
     }
     const auto there = Milliseconds(timer) / Sends;
     Report("one box there and back, beside Octave's own", there - OwnMilliseconds(octave), 2);
@@ -94,8 +95,8 @@ int main(int argc, char** argv) {
     mnuEXEMatlab_Click(*Documents[1]);
     Report("a diagram of 349 boxes, its answers shown", Milliseconds(timer), 2000);
     timer.start();
-    screen.LinkExecute("for i=1:20000,disp(i),end", {});
-    frmTextResults.txt.Text += screen.LinkRequest();
+    LinkExecute("for i=1:20000,disp(i),end", {});
+    frmTextResults.txt.Text += LinkRequest();
     frame.Refresh();
     QCoreApplication::processEvents();
     Report("20,000 lines printed and shown", Milliseconds(timer), 1000);

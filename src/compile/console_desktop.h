@@ -14,7 +14,6 @@ namespace quorvane {
 /// aborted or cancelled, or takes its default.
 struct ConsoleDesktop : QuietDesktop {
     std::function<void(const std::string& line)> WriteTranscript;  ///< Without a line end
-    std::function<void(const std::string& text)> WriteSent;        ///< What goes to MATLAB
     std::deque<std::string> Answers;                               ///< One line each
 
     Answer MsgBox(const Message& message) override;
@@ -23,9 +22,6 @@ struct ConsoleDesktop : QuietDesktop {
     std::string OpenFileDialog(const std::string& filter, const std::string& fileName) override;
     std::string SaveFileDialog(const std::string& filter, const std::string& fileName) override;
     void ShowModal(std::string_view form) override;
-    void LinkExecute(const std::string& script, const LineBoxes& /*boxes*/) override {
-        WriteSent(script);
-    }
 
 private:
     std::string TakeAnswer();

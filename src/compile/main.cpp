@@ -12,6 +12,7 @@
 #include "files/document_file.h"
 #include "files/settings.h"
 #include "generator/compile_document.h"
+#include "generator/link_door.h"
 #include "platform/file_table.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -96,7 +97,9 @@ bool WriteOutput(const std::string& path, const std::string& text) {
 
 /// Compiles the loaded diagram; `output` takes the script, or with mode 0 what was sent.
 ExitCode Compile(ConsoleDesktop& console, const Options& options, std::string& output) {
-    console.WriteSent = [&](const std::string& text) { output += SentBlock(text); };
+    matlabLink.Execute = [&](const std::string& script, const LineBoxes&) {
+        output += SentBlock(script);
+    };
     try {
         output += CompileDocument(static_cast<std::int16_t>(options.Mode), Documents[1]->Tag);
     } catch (const RuntimeError& error) {

@@ -3,6 +3,7 @@
 
 #include "diagram/worksheet.h"
 #include "generator/compile_document.h"
+#include "generator/link_door.h"
 #include "platform/desktop.h"
 #include "platform/file_table.h"
 #include "platform/numbers.h"
@@ -11,6 +12,7 @@
 namespace quorvane {
 
 TextResultsForm frmTextResults;
+LinkDoor matlabLink;
 
 namespace {
 
@@ -37,17 +39,17 @@ bool TryToSend(Statement&& statement) {
             {"Matlab is not responding. Maybe it isn't running. Shal I try and start it ?",
              Icon::Critical, Buttons::YesNo});
         if (answer != Answer::Yes) return false;
-        desktop->StartMatlab();
+        matlabLink.StartMatlab();
     }
 }
 
 bool Execute(LinkBox& sender, const LineBoxes& boxes) {
     const auto open = [&] {
         sender.LinkMode = 2;
-        desktop->LinkOpen();
+        matlabLink.Open();
     };
     if (!TryToSend(open)) return false;
-    if (!TryToSend([&] { desktop->LinkExecute(sender.Text, boxes); })) return false;
+    if (!TryToSend([&] { matlabLink.Execute(sender.Text, boxes); })) return false;
     sender.LinkMode = 0;
     return true;
 }
@@ -57,8 +59,8 @@ void Request(LinkBox& receiver) {
     PrepareLink(receiver, "EngStringResult");
     receiver.LinkMode = 2;
     Attempt([&] {
-        desktop->LinkOpen();
-        receiver.Text = desktop->LinkRequest();
+        matlabLink.Open();
+        receiver.Text = matlabLink.Request();
     });
     receiver.LinkMode = 0;
 }
@@ -110,7 +112,7 @@ void mnuEXEMatlab_Click(Worksheet& sheet) {
     frmTextResults.Form.Visible = true;
     frmTextResults.Minimized = false;
     CompileDocument(0, sheet.Tag);
-    frmTextResults.txt.Text += desktop->LinkFinish(lastRunEnd == RunEnd::Done);
+    frmTextResults.txt.Text += matlabLink.Finish(lastRunEnd == RunEnd::Done);
 }
 
 std::string FoldFirstPlot(std::string_view script) {

@@ -6,7 +6,7 @@
 #include <string_view>
 
 #include "diagram/box_table.h"
-#include "platform/desktop.h"
+#include "generator/link_door.h"
 #include "platform/runtime_error.h"
 
 namespace quorvane {

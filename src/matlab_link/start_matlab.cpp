@@ -5,6 +5,7 @@
 #include <filesystem>
 
 #include "diagram/preferences.h"
+#include "matlab_link/link.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
@@ -148,7 +149,7 @@ void mnuFileStartMatlab_Click() {
     const auto bin = JoinPath(folder, "bin");
     auto program = JoinPath(bin, programs.front());
     ReportFailure([&] { program = FindProgram(bin); });
-    ReportFailure([&] { desktop->StartProcess(program); });
+    ReportFailure([&] { StartLink(program); });
     Attempt([] { ChangeDirectory(ProgramDirectory); });
 }
 

@@ -21,8 +21,14 @@ struct Message {
     std::string Title = "Quorvane";
 };
 
-/// The number of the box that wrote each line of a script.
-using LineBoxes = std::vector<std::int16_t>;
+/// What a wait for the engine has brought.
+struct EngineNews {
+    std::string Bytes;     ///< What it printed since the last wait
+    bool Escape = false;   ///< The user wants the script to be stopped
+    bool Ended = false;    ///< It is gone, and these are its last bytes
+    bool Crashed = false;  ///< Code is the signal that ended it, else its exit code
+    int Code = 0;
+};
 
 /// All that the program asks of the desktop it runs on. It is the one door out of the core: behind
 /// it stands the application's window system, the command line, or a test.
@@ -59,26 +65,23 @@ struct Desktop {
     virtual void PaintNow() = 0;
     /// Hands a command to the help viewer: 3 contents, 4 help on help, 261 search, 2 quit.
     virtual void Help(const std::string& file, int command) = 0;
-    /// Starts MATLAB or Octave, without a window of its own, as the far end of the link. It ends
-    /// with this program. Error 53 when it can't be started.
-    virtual void StartProcess(const std::string& path) = 0;
     /// Ends the program once the running handler has returned.
     virtual void EndProgram() = 0;
 
-    /// The link to a running MATLAB. Opening it or executing raises error 282 when nothing answers.
-    virtual void LinkOpen() = 0;
-    /// Runs a script to its end. Parts of a block ("for" without its "end") are kept until the
-    /// script that closes it has come, and then run as one. `boxes` holds the box that wrote each
-    /// line, for what there is to complain about.
-    virtual void LinkExecute(const std::string& script, const LineBoxes& boxes) = 0;
-    /// What was printed by the last execute, "" where it only kept a part.
-    virtual std::string LinkRequest() = 0;
-    /// Ends a run and returns what there is to say about a block that was never closed, "" when
-    /// there is none. A run that has `come` to its end gives MATLAB what is kept of the block; that
-    /// of a run that was broken off is dropped.
-    virtual std::string LinkFinish(bool come) = 0;
-    /// Runs the command "Start Matlab".
-    virtual void StartMatlab() = 0;
+    /// Starts MATLAB or Octave behind pipes, without a window of its own, in place of the one that
+    /// was started before. It ends with this program. Error 53 when it can't be started.
+    virtual void StartEngine(const std::string& program,
+                             const std::vector<std::string>& arguments) = 0;
+    virtual bool EngineRuns() = 0;
+    virtual void WriteEngine(const std::string& bytes) = 0;
+    /// Waits until the engine has printed something or is gone, Escape was pressed or a fifth of a
+    /// second has passed. The windows are painted meanwhile and take no other input.
+    virtual EngineNews WaitForEngine() = 0;
+    /// Interrupt or end the engine and what it has started.
+    virtual void InterruptEngine() = 0;
+    virtual void KillEngine() = 0;
+    /// A clock that never goes back.
+    virtual std::int64_t Milliseconds() = 0;
 
     /// The per-user store: values by section and key; "" where there is none.
     virtual std::string ReadStore(const std::string& section, const std::string& key) = 0;

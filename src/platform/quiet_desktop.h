@@ -36,13 +36,16 @@ struct QuietDesktop : Desktop {
     int ClockSeconds() override { return 0; }
     void PaintNow() override {}
     void Help(const std::string&, int) override {}
-    void StartProcess(const std::string&) override {}
     void EndProgram() override {}
-    void LinkOpen() override {}
-    void LinkExecute(const std::string&, const LineBoxes&) override {}
-    std::string LinkRequest() override { return ""; }
-    std::string LinkFinish(bool) override { return ""; }
-    void StartMatlab() override {}
+    void StartEngine(const std::string&, const std::vector<std::string>&) override {
+        throw RuntimeError(53);
+    }
+    bool EngineRuns() override { return false; }
+    void WriteEngine(const std::string&) override {}
+    EngineNews WaitForEngine() override { return {.Bytes = "", .Ended = true}; }
+    void InterruptEngine() override {}
+    void KillEngine() override {}
+    std::int64_t Milliseconds() override { return 0; }
     std::string ReadStore(const std::string&, const std::string&) override { return ""; }
     void WriteStore(const std::string&, const std::string&, const std::string&) override {}
     std::vector<std::pair<std::string, std::string>> ReadStoreSection(const std::string&) override {

@@ -14,9 +14,9 @@
 #include <QStandardPaths>
 #include <QThread>
 #include <QTime>
+#include <chrono>
 
 #include "diagram/preferences.h"
-#include "matlab_link/start_matlab.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "qt/config_toolbox_view.h"
@@ -36,7 +36,6 @@ namespace quorvane {
 namespace {
 
 constexpr int Cancelled = 32755;
-constexpr int NoApplicationAnswered = 282;
 
 QWidget* Parent() {
     auto* active = QApplication::activeModalWidget();
@@ -262,23 +261,24 @@ void QtDesktop::PaintNow() {
 
 void QtDesktop::Help(const std::string& file, int command) { RunHelpCommand(file, command); }
 
-void QtDesktop::StartProcess(const std::string& path) { matlab_.Start(ToScreen(path)); }
-
 // Not quit(): that would ask the windows once more, and the frame closes by its own rules.
 void QtDesktop::EndProgram() { QCoreApplication::exit(0); }
 
-/// The last words of an engine that has ended can still be fetched.
-void QtDesktop::LinkOpen() {
-    if (!matlab_.IsRunning() && !matlab_.HasAnswer()) throw RuntimeError(NoApplicationAnswered);
+void QtDesktop::StartEngine(const std::string& program, const std::vector<std::string>& arguments) {
+    QStringList list;
+    for (const auto& argument : arguments) list.append(ToScreen(argument));
+    matlab_.Start(ToScreen(program), list);
 }
 
-void QtDesktop::LinkExecute(const std::string& script, const LineBoxes& boxes) {
-    matlab_.Execute(script, boxes);
+bool QtDesktop::EngineRuns() { return matlab_.IsRunning(); }
+void QtDesktop::WriteEngine(const std::string& bytes) { matlab_.Write(bytes); }
+EngineNews QtDesktop::WaitForEngine() { return matlab_.Wait(); }
+void QtDesktop::InterruptEngine() { matlab_.Interrupt(); }
+void QtDesktop::KillEngine() { matlab_.Kill(); }
+std::int64_t QtDesktop::Milliseconds() {
+    using namespace std::chrono;
+    return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
-
-std::string QtDesktop::LinkRequest() { return matlab_.TakeAnswer(); }
-std::string QtDesktop::LinkFinish(bool come) { return matlab_.Finish(come); }
-void QtDesktop::StartMatlab() { mnuFileStartMatlab_Click(); }
 
 std::string QtDesktop::ReadStore(const std::string& section, const std::string& key) {
     return ToCore(QSettings().value(StoreKey(section, key)).toString());

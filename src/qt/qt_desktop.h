@@ -22,13 +22,15 @@ struct QtDesktop : Desktop {
     int ClockSeconds() override;
     void PaintNow() override;
     void Help(const std::string& file, int command) override;
-    void StartProcess(const std::string& path) override;
     void EndProgram() override;
-    void LinkOpen() override;
-    void LinkExecute(const std::string& script, const LineBoxes& boxes) override;
-    std::string LinkRequest() override;
-    std::string LinkFinish(bool come) override;
-    void StartMatlab() override;
+    void StartEngine(const std::string& program,
+                     const std::vector<std::string>& arguments) override;
+    bool EngineRuns() override;
+    void WriteEngine(const std::string& bytes) override;
+    EngineNews WaitForEngine() override;
+    void InterruptEngine() override;
+    void KillEngine() override;
+    std::int64_t Milliseconds() override;
     std::string ReadStore(const std::string& section, const std::string& key) override;
     void WriteStore(const std::string& section, const std::string& key,
                     const std::string& value) override;

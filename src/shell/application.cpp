@@ -22,6 +22,7 @@
 #include "generator/front.h"
 #include "generator/output_targets.h"
 #include "matlab_link/command_browser.h"
+#include "matlab_link/link.h"
 #include "matlab_link/mfile_index.h"
 #include "matlab_link/start_matlab.h"
 #include "platform/file_table.h"
@@ -79,6 +80,8 @@ void ResetApplication() {
     icons = {};
     ResetMFileIndex();
     OpenCommandBrowser = ShowCommandBrowser;
+    ResetLink();
+    matlabLink = {LinkOpen, LinkExecute, LinkRequest, LinkFinish, mnuFileStartMatlab_Click};
     ProgramDirectory.clear();
     HelpFile = Manual;
     TourStep = 0;

@@ -65,7 +65,7 @@ struct CyclicDesktop : ScriptedDesktop {
         if (wayOut == 2) frmMatrix.grid.Cell(1, 1) = "3";
         if (wayOut != 0) frmMatrix_cmdOK_Click();
     }
-    void LinkOpen() override {
+    void OpenLink() {
         constexpr int failures[] = {0, 0, 0, 282, 5};
         Count();
         const int failure = failures[(Hash / 16U + 2 * Calls - 1) % 5];
@@ -167,6 +167,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         screen.Hash = HashOf(bytes);
         screen.SavedAs = FuzzFolder() / "saved.qvm";
         desktop = &screen;
+        matlabLink = screen.Link();
+        matlabLink.Open = [&] { screen.OpenLink(); };
         LoadDocumentFile(path);
         if (screen.Hash / 256 % 4 == 0) LoadBehindItself(path);
         Check(NextBox >= 1 && NextBox <= MaxBoxes + 1, "a load left a wrong number of boxes");

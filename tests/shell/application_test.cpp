@@ -28,7 +28,8 @@ TEST(Application, AResetForgetsNoVariable) {
     const std::regex variable(
         R"re(^(?!(?:const|constexpr|using|extern|namespace|struct|class|enum|return)\b)[A-Za-z][\w:<>,*+ ]* \**(\w+)(?: = [^;]*|\{[^;]*\}|\(\d*\))?;)re",
         multiline);
-    const std::regex reset(R"re(^void (?:Reset|Clear)\w+\(\) \{\n((?:    .*\n)*)\})re", multiline);
+    const std::regex reset(R"re(^void (?:Reset|Clear)\w+\(\) \{(\n(?:    .*\n)*| .*)\})re",
+                           multiline);
     const std::regex word(R"re(\b(\w+)\b)re");
     Names variables, bodies, mentioned;
     for (const auto& entry : fs::recursive_directory_iterator(QUORVANE_SOURCE_DIR "/src")) {

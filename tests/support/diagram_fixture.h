@@ -28,6 +28,7 @@ protected:
     void SetUp() override {
         ResetApplication();
         desktop = &screen;
+        matlabLink = screen.Link();
         NewDocument();
     }
     void TearDown() override {

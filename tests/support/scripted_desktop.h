@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "generator/link_door.h"
 #include "platform/quiet_desktop.h"
 
 namespace quorvane::testing {
@@ -76,22 +77,13 @@ struct ScriptedDesktop : QuietDesktop {
     void Help(const std::string& file, int command) override {
         HelpCommands.push_back(file + "|" + std::to_string(command));
     }
-    void StartProcess(const std::string& path) override {
+    /// The engine is there, but any script ends it.
+    void StartEngine(const std::string& path, const std::vector<std::string>&) override {
         if (ProcessesFail) throw RuntimeError(53);
         Processes.push_back(path);
     }
+    bool EngineRuns() override { return !Processes.empty(); }
     void EndProgram() override { Ended = true; }
-    void LinkOpen() override {
-        const int failure = LinkFailures.empty() ? 0 : Take(LinkFailures);
-        if (failure != 0) throw RuntimeError(failure);
-    }
-    void LinkExecute(const std::string& script, const LineBoxes& boxes) override {
-        Sent.push_back(script);
-        SentBoxes.push_back(boxes);
-    }
-    std::string LinkRequest() override { return Reply; }
-    std::string LinkFinish(bool come) override { return come ? Kept : "dropped|"; }
-    void StartMatlab() override { ++MatlabStarts; }
     std::string ReadStore(const std::string& section, const std::string& key) override {
         return Store[section][key];
     }
@@ -106,6 +98,23 @@ struct ScriptedDesktop : QuietDesktop {
             if (!row.second.empty()) rows.emplace_back(row);
         }
         return rows;
+    }
+
+    /// A link that answers as prepared.
+    LinkDoor Link() {
+        LinkDoor door;
+        door.Open = [this] {
+            const int failure = LinkFailures.empty() ? 0 : Take(LinkFailures);
+            if (failure != 0) throw RuntimeError(failure);
+        };
+        door.Execute = [this](const std::string& script, const LineBoxes& boxes) {
+            Sent.push_back(script);
+            SentBoxes.push_back(boxes);
+        };
+        door.Request = [this] { return Reply; };
+        door.Finish = [this](bool come) { return come ? Kept : "dropped|"; };
+        door.StartMatlab = [this] { ++MatlabStarts; };
+        return door;
     }
 
 private:

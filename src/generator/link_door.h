@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace quorvane {
+
+/// The number of the box that wrote each line of a script.
+using LineBoxes = std::vector<std::int16_t>;
+
+/// The link to a running MATLAB as a run uses it. What stands behind it (matlab_link/link.h) is put
+/// in when the program starts; until then nothing happens. The command line puts in a printer.
+struct LinkDoor {
+    /// Error 282 when nothing answers, as for Execute.
+    std::function<void()> Open = [] {};
+    std::function<void(const std::string& script, const LineBoxes& boxes)> Execute =
+        [](const std::string&, const LineBoxes&) {};
+    /// What was printed for the last Execute.
+    std::function<std::string()> Request = [] { return ""; };
+    /// Ends a run, which has `come` to its end or was broken off, and returns what there is to say.
+    std::function<std::string(bool come)> Finish = [](bool) { return ""; };
+    /// The command "Start Matlab".
+    std::function<void()> StartMatlab = [] {};
+};
+extern LinkDoor matlabLink;
+
+}  // namespace quorvane

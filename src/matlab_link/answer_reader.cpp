@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: MIT
+#include "matlab_link/answer_reader.h"
+
+#include <algorithm>
+
+namespace quorvane {
+
+namespace {
+
+constexpr char MarkEdge = '\1';
+
+bool IsQuestion(MarkKind kind) { return kind == MarkKind::Line || kind == MarkKind::Pause; }
+
+}  // namespace
+
+std::optional<Mark> TakeMark(AnswerReader& reader) {
+    auto& text = reader.Received;
+    const auto start = MarkEdge + reader.Token;
+    const auto at = text.find(start, reader.Looked);
+    // The line end in front of a mark stays within reach as long as the mark may still come.
+    if (at == std::string::npos) {
+        if (text.size() > start.size()) {
+            reader.Looked = std::max(reader.Looked, text.size() - start.size());
+        }
+        return std::nullopt;
+    }
+    const auto kindAt = at + start.size(), textAt = kindAt + 2;
+    const auto end = text.find(MarkEdge, textAt);
+    const auto lineEnd = at > 0 && text[at - 1] == '\n' ? at - 1 : at;
+    reader.Looked = std::max(reader.Looked, lineEnd);
+    if (end == std::string::npos) return std::nullopt;
+    const Mark mark = {static_cast<MarkKind>(text[kindAt]), text.substr(textAt, end - textAt)};
+    reader.Looked = IsQuestion(mark.Kind) ? at : lineEnd;
+    text.erase(reader.Looked, end + 1 - reader.Looked);
+    return mark;
+}
+
+void InsertText(AnswerReader& reader, const std::string& text) {
+    reader.Received.insert(reader.Looked, text);
+    reader.Looked += text.size();
+}
+
+void BeginAnswer(AnswerReader& reader) {
+    reader.Received.erase(0, reader.Looked);
+    reader.Looked = reader.LeftOut = 0;
+}
+
+void EndAnswer(AnswerReader& reader) { reader.Received.resize(reader.Looked); }
+
+void LimitAnswer(AnswerReader& reader) {
+    if (reader.Looked <= AnswerLimit) return;
+    const auto excess = reader.Looked - AnswerLimit;
+    reader.Received.erase(AnswerLimit, excess);
+    reader.Looked = AnswerLimit;
+    reader.LeftOut += excess;
+}
+
+std::string AnswerOf(AnswerReader& reader) {
+    reader.Looked = reader.Received.size();
+    LimitAnswer(reader);
+    auto answer = std::move(reader.Received);
+    if (reader.LeftOut > 0) {
+        answer += "\n... " + std::to_string(reader.LeftOut) + " bytes more\n";
+    }
+    return answer;
+}
+
+}  // namespace quorvane
