@@ -17,47 +17,33 @@ SubsForm frmSubs;
 PauseForm frmPause;
 UserInputForm frmUserInput;
 
-void frmForLoop_Load() {
-    frmForLoop = {};
-    frmForLoop.Form = {.Caption = "For Loop", .Loaded = true};
-}
-
-void frmForLoop_cmd_Click() { frmForLoop.Form.Visible = false; }
-
 Form frmForLoop_Table() {
     return {.Name = "frmForLoop",
             .State = &frmForLoop.Form,
             .Controls = {{"txtFrom", &frmForLoop.txtFrom},
                          {"txtUntil", &frmForLoop.txtUntil},
                          {"txtInc", &frmForLoop.txtInc},
-                         {"cmd", &frmForLoop.cmd, frmForLoop_cmd_Click}}};
+                         {"cmd", &frmForLoop.cmd, HideForm<frmForLoop>}}};
 }
 
 void CompleteFor(int box) {
-    frmForLoop_Load();
+    LoadForm(frmForLoop);
     desktop->ShowModal("frmForLoop");
     Boxes[box].BoxText = frmForLoop.txtFrom.Text + ":" + frmForLoop.txtInc.Text + ":" +
                          frmForLoop.txtUntil.Text + ",";
     frmForLoop = {};
 }
 
-void frmIf_Load() {
-    frmIf = {};
-    frmIf.Form = {.Caption = "Condition Statement", .Loaded = true};
-}
-
-void frmIf_cmdOK_Click() { frmIf.Form.Visible = false; }
-
 Form frmIf_Table() {
     return {.Name = "frmIf",
             .State = &frmIf.Form,
             .Controls = {{"txtCondition", &frmIf.txtCondition},
                          {"chkelse", &frmIf.chkelse},
-                         {"cmdOK", &frmIf.cmdOK, frmIf_cmdOK_Click}}};
+                         {"cmdOK", &frmIf.cmdOK, HideForm<frmIf>}}};
 }
 
 void CompleteIf(int box) {
-    frmIf_Load();
+    LoadForm(frmIf);
     desktop->ShowModal("frmIf");
     Boxes[box].BoxText = (frmIf.chkelse.Value ? "else" : "") + frmIf.txtCondition.Text;
     frmIf = {};
@@ -90,13 +76,11 @@ void frmSubs_Load() {
     }
 }
 
-void frmSubs_cmdOK_Click() { frmSubs.Form.Visible = false; }
-
 Form frmSubs_Table() {
     return {.Name = "frmSubs",
             .State = &frmSubs.Form,
             .Controls = {{"available_subs", &frmSubs.available_subs},
-                         {"cmdOK", &frmSubs.cmdOK, frmSubs_cmdOK_Click}}};
+                         {"cmdOK", &frmSubs.cmdOK, HideForm<frmSubs>}}};
 }
 
 std::string AskInsertedSubroutine() {
@@ -132,11 +116,6 @@ double Seconds() {
 
 }  // namespace
 
-void frmPause_Load() {
-    frmPause = {};
-    frmPause.Form = {.Caption = "Pause execution", .Loaded = true};
-}
-
 void frmPause_lblSecs_Change() {
     const bool number = Attempt([] { TextToNumber(frmPause.lblSecs.Text); });
     if (!number || Seconds() < 0) frmPause.lblSecs.Text = "0";
@@ -156,47 +135,38 @@ void frmPause_chkNoNumber_Click() {
     frmPause.lblSecs.Enabled = counted;
 }
 
-void frmPause_cmdOK_Click() { frmPause.Form.Visible = false; }
-
 Form frmPause_Table() {
     return {.Name = "frmPause",
             .State = &frmPause.Form,
             .Controls = {{"lblSecs", &frmPause.lblSecs, frmPause_lblSecs_Change, TakesNumber},
                          {"spn", &frmPause.spn, frmPause_spn_Change},
                          {"chkNoNumber", &frmPause.chkNoNumber, frmPause_chkNoNumber_Click},
-                         {"cmdOK", &frmPause.cmdOK, frmPause_cmdOK_Click}}};
+                         {"cmdOK", &frmPause.cmdOK, HideForm<frmPause>}}};
 }
 
 void CompletePause(int box) {
-    frmPause_Load();
+    LoadForm(frmPause);
     desktop->ShowModal("frmPause");
     Boxes[box].BoxText = frmPause.chkNoNumber.Value ? "" : frmPause.lblSecs.Text;
     frmPause = {};
 }
 
-void frmUserInput_Load() {
-    frmUserInput = {};
-    frmUserInput.Form = {.Caption = "User prompt for input", .Loaded = true};
-}
-
-void frmUserInput_cmdOK_Click() { frmUserInput.Form.Visible = false; }
-
 Form frmUserInput_Table() {
     return {.Name = "frmUserInput",
             .State = &frmUserInput.Form,
             .Controls = {{"txtPrompt", &frmUserInput.txtPrompt},
-                         {"cmdOK", &frmUserInput.cmdOK, frmUserInput_cmdOK_Click}}};
+                         {"cmdOK", &frmUserInput.cmdOK, HideForm<frmUserInput>}}};
 }
 
 void CompleteUserInput(int box) {
-    frmUserInput_Load();
+    LoadForm(frmUserInput);
     desktop->ShowModal("frmUserInput");
     Boxes[box].BoxText = frmUserInput.txtPrompt.Text;
     frmUserInput = {};
 }
 
 void CompleteComment(int box) {
-    frmComment_Load();
+    LoadForm(frmComment);
     desktop->ShowModal("frmComment");
     Boxes[box].BoxText = frmComment.txtComment.Text;
     frmComment = {};

@@ -14,28 +14,24 @@ namespace quorvane {
 
 /// "For": from, increment, until.
 struct ForLoopForm {
-    FormState Form;
+    FormState Form = {.Caption = "For Loop"};
     TextBox txtFrom{"1"};
     TextBox txtUntil{"1"};
     TextBox txtInc{"1"};
     Button cmd{"OK"};
 };
 extern ForLoopForm frmForLoop;
-void frmForLoop_Load();
-void frmForLoop_cmd_Click();
 Form frmForLoop_Table();
 void CompleteFor(int box);
 
 /// "If": the condition, with "else" in front when the second exit is the other branch.
 struct IfForm {
-    FormState Form;
+    FormState Form = {.Caption = "Condition Statement"};
     TextBox txtCondition;
     CheckBox chkelse;
     Button cmdOK{"OK"};
 };
 extern IfForm frmIf;
-void frmIf_Load();
-void frmIf_cmdOK_Click();
 Form frmIf_Table();
 void CompleteIf(int box);
 
@@ -50,7 +46,6 @@ struct SubsForm {
 };
 extern SubsForm frmSubs;
 void frmSubs_Load();
-void frmSubs_cmdOK_Click();
 Form frmSubs_Table();
 
 /// Ask for a subroutine before there is a box and give the type of the box: "Insert Subroutine "
@@ -60,32 +55,28 @@ std::string AskStartedSubroutine();
 
 /// "Pause": a number of seconds, or a wait for the user.
 struct PauseForm {
-    FormState Form;
+    FormState Form = {.Caption = "Pause execution"};
     TextBox lblSecs{"1"};
     ScrollBar spn{.Min = -1, .Max = 1};  ///< -1 while its upper end is pressed, 1 the lower one
     CheckBox chkNoNumber;
     Button cmdOK{"OK"};
 };
 extern PauseForm frmPause;
-void frmPause_Load();
 /// Keeps the seconds at a number of 0 or more.
 void frmPause_lblSecs_Change();
 /// Adds or subtracts one second and resets the spin control.
 void frmPause_spn_Change();
 void frmPause_chkNoNumber_Click();
-void frmPause_cmdOK_Click();
 Form frmPause_Table();
 void CompletePause(int box);
 
 /// "User Input": the prompt that the script shows.
 struct UserInputForm {
-    FormState Form;
+    FormState Form = {.Caption = "User prompt for input"};
     TextBox txtPrompt;
     Button cmdOK{"OK"};
 };
 extern UserInputForm frmUserInput;
-void frmUserInput_Load();
-void frmUserInput_cmdOK_Click();
 Form frmUserInput_Table();
 void CompleteUserInput(int box);
 

@@ -41,8 +41,6 @@ void frmMatlabFunction_cmdShowFunc_Click() {
     BrowseCommands(frmMatlabFunction.Form, MatlabFunctionCaption, "mat");
 }
 
-void frmMatlabFunction_cmdOK_Click() { frmMatlabFunction.Form.Visible = false; }
-
 Form frmMatlabFunction_Table() {
     auto& record = frmMatlabFunction;
     Form form{
@@ -50,7 +48,7 @@ Form frmMatlabFunction_Table() {
         .State = &record.Form,
         .Controls = {{"txtFunc", &record.txtFunc},
                      {"cmdShowFunc", &record.cmdShowFunc, frmMatlabFunction_cmdShowFunc_Click},
-                     {"cmdOK", &record.cmdOK, frmMatlabFunction_cmdOK_Click}}};
+                     {"cmdOK", &record.cmdOK, HideForm<frmMatlabFunction>}}};
     for (int i = 1; i <= 3; ++i) {
         form.Controls.push_back({Element("chkInputs", i), &record.chkInputs[i]});
     }

@@ -22,7 +22,6 @@ struct MatlabFunctionForm {
 extern MatlabFunctionForm frmMatlabFunction;
 void frmMatlabFunction_Load();
 void frmMatlabFunction_cmdShowFunc_Click();
-void frmMatlabFunction_cmdOK_Click();
 Form frmMatlabFunction_Table();
 void CompleteMatlabCommand(int box);
 

@@ -11,24 +11,17 @@ MakeVectorForm frmMakeVector;
 MakeMatForm frmMakeMat;
 SplitForm frmSplit;
 
-void frmMakeVector_Load() {
-    frmMakeVector = {};
-    frmMakeVector.Form = {.Caption = "Make Vector", .Loaded = true};
-}
-
-void frmMakeVector_cmdOK_Click() { frmMakeVector.Form.Visible = false; }
-
 Form frmMakeVector_Table() {
     return {.Name = "frmMakeVector",
             .State = &frmMakeVector.Form,
             .Controls = {{"txtMin", &frmMakeVector.txtMin},
                          {"txtStep", &frmMakeVector.txtStep},
                          {"txtMax", &frmMakeVector.txtMax},
-                         {"cmdOK", &frmMakeVector.cmdOK, frmMakeVector_cmdOK_Click}}};
+                         {"cmdOK", &frmMakeVector.cmdOK, HideForm<frmMakeVector>}}};
 }
 
 void CompleteMakeVector(int box) {
-    frmMakeVector_Load();
+    LoadForm(frmMakeVector);
     desktop->ShowModal("frmMakeVector");
     Boxes[box].BoxText = "[" + frmMakeVector.txtMin.Text + ":" + frmMakeVector.txtStep.Text + ":" +
                          frmMakeVector.txtMax.Text + "];";
@@ -60,15 +53,13 @@ void frmMakeMat_Load() {
 
 void frmMakeMat_opn_Click(int Index) { frmMakeMat.txtOpn = NumberText(Index); }
 
-void frmMakeMat_cmdOK_Click() { frmMakeMat.Form.Visible = false; }
-
 Form frmMakeMat_Table() {
     Form form{.Name = "frmMakeMat",
               .State = &frmMakeMat.Form,
               .Controls = {{"txtRows", &frmMakeMat.txtRows},
                            {"txtCols", &frmMakeMat.txtCols},
                            {"Option1", &frmMakeMat.Option1},
-                           {"cmdOK", &frmMakeMat.cmdOK, frmMakeMat_cmdOK_Click}}};
+                           {"cmdOK", &frmMakeMat.cmdOK, HideForm<frmMakeMat>}}};
     for (int i = 0; i <= 3; ++i) {
         form.Controls.push_back(
             {"opn(" + NumberText(i) + ")", &frmMakeMat.opn[i], [i] { frmMakeMat_opn_Click(i); }});
@@ -97,8 +88,6 @@ void frmSplit_txtTo_Change() {
     if (frmSplit.txtFrom.Text.empty()) frmSplit.txtFrom.Text = "1";
 }
 
-void frmSplit_cmdOK_Click() { frmSplit.Form.Visible = false; }
-
 Form frmSplit_Table() {
     return {.Name = "frmSplit",
             .State = &frmSplit.Form,
@@ -106,7 +95,7 @@ Form frmSplit_Table() {
                          {"Col", &frmSplit.Col},
                          {"txtFrom", &frmSplit.txtFrom},
                          {"txtTo", &frmSplit.txtTo, frmSplit_txtTo_Change},
-                         {"cmdOK", &frmSplit.cmdOK, frmSplit_cmdOK_Click}}};
+                         {"cmdOK", &frmSplit.cmdOK, HideForm<frmSplit>}}};
 }
 
 void CompleteSplit(int box) {

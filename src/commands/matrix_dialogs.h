@@ -13,15 +13,13 @@ namespace quorvane {
 
 /// "Vector Make Input": a linearly spaced vector.
 struct MakeVectorForm {
-    FormState Form;
+    FormState Form = {.Caption = "Make Vector"};
     TextBox txtMin{"1"};
     TextBox txtStep{"1"};
     TextBox txtMax{"1"};
     Button cmdOK{"OK"};
 };
 extern MakeVectorForm frmMakeVector;
-void frmMakeVector_Load();
-void frmMakeVector_cmdOK_Click();
 Form frmMakeVector_Table();
 void CompleteMakeVector(int box);
 
@@ -39,7 +37,6 @@ struct MakeMatForm {
 extern MakeMatForm frmMakeMat;
 void frmMakeMat_Load();
 void frmMakeMat_opn_Click(int Index);
-void frmMakeMat_cmdOK_Click();
 Form frmMakeMat_Table();
 void CompleteMakeMat(int box);
 
@@ -55,7 +52,6 @@ struct SplitForm {
 extern SplitForm frmSplit;
 void frmSplit_Load();
 void frmSplit_txtTo_Change();
-void frmSplit_cmdOK_Click();
 Form frmSplit_Table();
 void CompleteSplit(int box);
 

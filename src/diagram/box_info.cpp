@@ -97,7 +97,7 @@ void ChangeBox(int number) {
 }
 
 void EditComment(int number) {
-    frmComment_Load();
+    LoadForm(frmComment);
     frmComment.txtComment.Text = Boxes[number].BoxText;
     frmComment_txtComment_Change();
     desktop->ShowModal("frmComment");

@@ -13,11 +13,6 @@ constexpr int LongestComment = 100;
 
 }  // namespace
 
-void frmComment_Load() {
-    frmComment = {};
-    frmComment.Form.Loaded = true;
-}
-
 void frmComment_txtComment_Change() {
     auto& text = frmComment.txtComment.Text;
     int characters = 0;
@@ -29,13 +24,11 @@ void frmComment_txtComment_Change() {
     }
 }
 
-void frmComment_cmdOK_Click() { frmComment.Form.Visible = false; }
-
 Form frmComment_Table() {
     return {"frmComment",
             &frmComment.Form,
             {{"txtComment", &frmComment.txtComment, frmComment_txtComment_Change},
-             {"cmdOK", &frmComment.cmdOK, frmComment_cmdOK_Click}}};
+             {"cmdOK", &frmComment.cmdOK, HideForm<frmComment>}}};
 }
 
 }  // namespace quorvane

@@ -15,10 +15,8 @@ struct CommentForm {
 };
 extern CommentForm frmComment;
 
-void frmComment_Load();
 /// Cuts the text to 100 characters; a character of more bytes than one isn't cut apart.
 void frmComment_txtComment_Change();
-void frmComment_cmdOK_Click();
 Form frmComment_Table();
 
 }  // namespace quorvane

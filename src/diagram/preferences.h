@@ -15,7 +15,7 @@ namespace quorvane {
 extern std::string ProgramDirectory;
 
 /// The preferences dialog. It is never unloaded: its controls are the current preferences, which
-/// all parts read.
+/// all parts read. Saving them and OK reach further: their handlers are in the shell.
 struct PreferencesForm {
     FormState Form = {.Caption = "Prefrences"};
     ScrollBar sclWidth = {.Value = 1, .Min = 1, .Max = 4};
@@ -35,5 +35,13 @@ struct PreferencesForm {
     int RememberedBubbles = 1;
 };
 extern PreferencesForm frmPrefs;
+
+/// Remembers what Cancel puts back, and draws the sample line.
+void frmPrefs_Activate();
+void frmPrefs_sclWidth_Change();
+/// Corrects a text that is not a valid width, and redraws the sample line.
+void frmPrefs_txtLineWidth_Change();
+/// Restores line width and bubbles; the other controls keep what the user did.
+void frmPrefs_cmdCancel_Click();
 
 }  // namespace quorvane

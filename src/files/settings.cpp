@@ -56,19 +56,10 @@ void ReadCheckBox(const char* key, CheckBox& box) {
     if (const auto value = Setting(key)) box.Value = value->front() == '0' ? 0 : 1;
 }
 
-void DrawSampleLine() {
-    DrawnShape line;
-    line.Width = frmPrefs.DrawWidth;
-    line.X1 = 3100;
-    line.X2 = 4200;
-    line.Y1 = line.Y2 = 480;
-    frmPrefs.Surface = {line};
-}
-
 }  // namespace
 
 void ReadSettings() {
-    frmPrefs_Load();
+    frmPrefs.Form.Loaded = true;
     if (const auto width = Setting("Line Width")) {
         auto& bar = frmPrefs.sclWidth;
         bar.Value = std::clamp(TextToInt16(width->substr(0, 1)), bar.Min, bar.Max);
@@ -88,37 +79,7 @@ void ReadSettings() {
     RefreshRecentFileMenus();
 }
 
-void frmPrefs_Load() { frmPrefs.Form.Loaded = true; }
-
-void frmPrefs_Activate() {
-    frmPrefs.RememberedWidth = TextToInt16(frmPrefs.txtLineWidth.Text);
-    frmPrefs.RememberedBubbles = frmPrefs.chkShowBubbles.Value;
-    DrawSampleLine();
-}
-
-void frmPrefs_sclWidth_Change() {
-    frmPrefs.txtLineWidth.Text = NumberText(frmPrefs.sclWidth.Value);
-    frmPrefs_txtLineWidth_Change();
-}
-
-void frmPrefs_txtLineWidth_Change() {
-    auto& text = frmPrefs.txtLineWidth.Text;
-    const auto width =
-        AttemptValue<double>(ErrorPolicy::Ignore, 0, [&] { return TextToNumber(text); });
-    if (width < frmPrefs.sclWidth.Min) text = NumberText(frmPrefs.sclWidth.Min);
-    if (width > frmPrefs.sclWidth.Max) text = NumberText(frmPrefs.sclWidth.Max);
-    frmPrefs.DrawWidth = TextToInt16(text);
-    DrawSampleLine();
-}
-
-void frmPrefs_cmdCancel_Click() {
-    frmPrefs.sclWidth.Value = frmPrefs.RememberedWidth;
-    frmPrefs_sclWidth_Change();
-    frmPrefs.chkShowBubbles.Value = frmPrefs.RememberedBubbles;
-    frmPrefs.Form.Visible = false;
-}
-
-void frmPrefs_cmdSave_Click() {
+void WriteSettings() {
     const auto file = JoinPath(ProgramDirectory, "quorvane.ini");
     for (const auto& [key, value] : writtenSettings) {
         WritePrivateProfileString(Section, key, value(), file);

@@ -19,16 +19,7 @@ extern const std::vector<std::string_view> settingsTemplate;
 /// width begins with no digit: what stands behind it is then not read.
 void ReadSettings();
 
-/// The dialog. Its OK button also affects the toolbox, so its handler lies above both.
-void frmPrefs_Load();
-/// Remembers what Cancel puts back, and draws the sample line.
-void frmPrefs_Activate();
-void frmPrefs_sclWidth_Change();
-/// Corrects a text that is not a valid width, and redraws the sample line.
-void frmPrefs_txtLineWidth_Change();
-/// Restores line width and bubbles; the other controls keep what the user did.
-void frmPrefs_cmdCancel_Click();
-/// Writes the settings file. The dialog stays.
-void frmPrefs_cmdSave_Click();
+/// Writes the settings file anew.
+void WriteSettings();
 
 }  // namespace quorvane

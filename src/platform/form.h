@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/controls.h"
+#include "platform/drawing.h"
 
 namespace quorvane {
 
@@ -28,6 +29,12 @@ struct ControlRow {
 };
 constexpr bool TakesNumber = true;
 
+/// A timer that runs while its form is on the screen.
+struct FormTimer {
+    int Interval = 0;  ///< Milliseconds between two ticks, 0 for no timer
+    std::function<void()> Tick = nullptr;
+};
+
 /// A form as the screen sees it: its state and its controls. The screen copies what the user did
 /// into a record, calls the handler, and shows the records again.
 struct Form {
@@ -37,6 +44,22 @@ struct Form {
     std::function<void()> Activated = nullptr;  ///< Runs when the form has come to the screen
     /// Runs when the user closes the window; without it the form can't be closed by the user.
     std::function<void()> Closed = nullptr;
+    FormTimer Timer = {};
+    /// What the form itself shows painted, in the colour of its texts; nullptr for nothing.
+    const std::vector<DrawnShape>* Surface = nullptr;
 };
+
+/// Loads a form anew: its controls are as designed, and it is not on the screen yet.
+template <class FormRecord>
+void LoadForm(FormRecord& form) {
+    form = {};
+    form.Form.Loaded = true;
+}
+
+/// The handler of an OK button that does no more than end its form.
+template <auto& form>
+void HideForm() {
+    form.Form.Visible = false;
+}
 
 }  // namespace quorvane

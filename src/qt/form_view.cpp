@@ -23,7 +23,6 @@
 #include <QWindow>
 #include <utility>
 
-#include "diagram/preferences.h"
 #include "platform/numbers.h"
 #include "qt/dispatch.h"
 #include "qt/form_layouts.h"
@@ -33,7 +32,7 @@
 #include "qt/screen_units.h"
 #include "qt/shape_painter.h"
 #include "qt/wrapped_text.h"
-#include "shell/help.h"
+#include "shell/about.h"
 
 namespace quorvane {
 
@@ -278,7 +277,7 @@ FormView::FormView(const Form& form, QWidget* parent) : QDialog(parent), form_(f
             label->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
         }
     }
-    if (objectName() == "frmAbout") RunAboutTimer();
+    if (form.Timer.Interval > 0) RunTimer();
     openForms.append(this);
 }
 
@@ -347,11 +346,10 @@ void FormView::ConnectList(QListView* view, const std::function<void()>& run) {
     });
 }
 
-/// The line of the About dialog moves on while the dialog shows.
-void FormView::RunAboutTimer() {
+void FormView::RunTimer() {
     auto* timer = new QTimer(this);
-    connect(timer, &QTimer::timeout, this, [this] { Dispatch(frmAbout_Timer1_Timer, this); });
-    timer->start(frmAbout.Timer1);
+    connect(timer, &QTimer::timeout, this, [this] { Dispatch(form_.Timer.Tick, this); });
+    timer->start(form_.Timer.Interval);
 }
 
 void FormView::Refresh() {
@@ -368,7 +366,7 @@ void FormView::Refresh() {
         const QSignalBlocker quiet(control);
         std::visit([&](auto* record) { Show(*record, control); }, row.Record);
     }
-    if (objectName() == "frmPrefs") update();
+    if (form_.Surface) update();
 }
 
 /// Escape presses Cancel where a form has it, or closes a form that can be closed, and does nothing
@@ -386,14 +384,13 @@ void FormView::keyPressEvent(QKeyEvent* event) {
     if (!isEnter || !isTaken) QDialog::keyPressEvent(event);
 }
 
-/// The sample line of the preferences is the only thing that a form draws by itself.
 void FormView::paintEvent(QPaintEvent* event) {
     QDialog::paintEvent(event);
-    if (objectName() != "frmPrefs") return;
+    if (!form_.Surface) return;
     QPainter painter(this);
-    auto line = frmPrefs.Surface;
-    for (auto& shape : line) shape.Color = ColorNumber(palette().color(QPalette::WindowText));
-    PaintShapes(painter, line);
+    auto shapes = *form_.Surface;
+    for (auto& shape : shapes) shape.Color = ColorNumber(palette().color(QPalette::WindowText));
+    PaintShapes(painter, shapes);
 }
 
 /// The arrow keys choose among option buttons also where none is on yet.

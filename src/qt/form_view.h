@@ -32,7 +32,7 @@ private:
     void ConnectText(const ControlRow& row, QLineEdit* line);
     void Connect(const ControlRow& row, QWidget* control);
     void ConnectList(QListView* view, const std::function<void()>& run);
-    void RunAboutTimer();
+    void RunTimer();
     void Activate();
 
     const Form& form_;

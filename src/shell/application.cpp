@@ -26,6 +26,7 @@
 #include "matlab_link/mfile_index.h"
 #include "matlab_link/start_matlab.h"
 #include "platform/file_table.h"
+#include "shell/about.h"
 #include "shell/help.h"
 #include "shell/start_up.h"
 #include "shell/tour.h"

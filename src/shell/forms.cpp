@@ -11,7 +11,7 @@
 #include "matlab_link/command_browser.h"
 #include "matlab_link/mfile_index.h"
 #include "matlab_link/start_matlab.h"
-#include "shell/help.h"
+#include "shell/about.h"
 #include "shell/preferences_command.h"
 #include "toolbox/toolbox_config.h"
 

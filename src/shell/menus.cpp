@@ -13,6 +13,7 @@
 #include "files/document_file.h"
 #include "generator/output_targets.h"
 #include "matlab_link/start_matlab.h"
+#include "shell/about.h"
 #include "shell/frame.h"
 #include "shell/help.h"
 #include "shell/preferences_command.h"

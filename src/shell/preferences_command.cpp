@@ -38,21 +38,25 @@ void frmPrefs_cmdOK_Click() {
     frmPrefs.Form.Visible = false;
 }
 
+void frmPrefs_cmdSave_Click() { WriteSettings(); }
+
 Form frmPrefs_Table() {
-    return {"frmPrefs",
-            &frmPrefs.Form,
-            {{"sclWidth", &frmPrefs.sclWidth, frmPrefs_sclWidth_Change},
-             {"txtLineWidth", &frmPrefs.txtLineWidth, frmPrefs_txtLineWidth_Change, TakesNumber},
-             {"chkShowBubbles", &frmPrefs.chkShowBubbles},
-             {"chkInput", &frmPrefs.chkInput},
-             {"chkShowToolbox", &frmPrefs.chkShowToolbox},
-             {"txtToolbox", &frmPrefs.txtToolbox},
-             {"lbltoolboxsize", &frmPrefs.lbltoolboxsize},
-             {"txtDrives", &frmPrefs.txtDrives},
-             {"cmdSave", &frmPrefs.cmdSave, frmPrefs_cmdSave_Click},
-             {"cmdOK", &frmPrefs.cmdOK, frmPrefs_cmdOK_Click},
-             {"cmdCancel", &frmPrefs.cmdCancel, frmPrefs_cmdCancel_Click}},
-            frmPrefs_Activate};
+    return {.Name = "frmPrefs",
+            .State = &frmPrefs.Form,
+            .Controls = {{"sclWidth", &frmPrefs.sclWidth, frmPrefs_sclWidth_Change},
+                         {"txtLineWidth", &frmPrefs.txtLineWidth, frmPrefs_txtLineWidth_Change,
+                          TakesNumber},
+                         {"chkShowBubbles", &frmPrefs.chkShowBubbles},
+                         {"chkInput", &frmPrefs.chkInput},
+                         {"chkShowToolbox", &frmPrefs.chkShowToolbox},
+                         {"txtToolbox", &frmPrefs.txtToolbox},
+                         {"lbltoolboxsize", &frmPrefs.lbltoolboxsize},
+                         {"txtDrives", &frmPrefs.txtDrives},
+                         {"cmdSave", &frmPrefs.cmdSave, frmPrefs_cmdSave_Click},
+                         {"cmdOK", &frmPrefs.cmdOK, frmPrefs_cmdOK_Click},
+                         {"cmdCancel", &frmPrefs.cmdCancel, frmPrefs_cmdCancel_Click}},
+            .Activated = frmPrefs_Activate,
+            .Surface = &frmPrefs.Surface};
 }
 
 }  // namespace quorvane

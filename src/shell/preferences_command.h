@@ -12,7 +12,8 @@ void mnuOptionsPrefs_Click(Worksheet& sheet);
 
 /// Loads the toolbox anew, by its new name and size.
 void frmPrefs_cmdOK_Click();
-/// Without the sample line, which the screen draws by its own means.
+/// Writes the settings file. The dialog stays.
+void frmPrefs_cmdSave_Click();
 Form frmPrefs_Table();
 
 }  // namespace quorvane

@@ -101,7 +101,7 @@ void StartProgram() {
     int flag = NotAsked;
     FindSettings(flag);
     if (flag == Found) {
-        frmPrefs_Load();
+        frmPrefs.Form.Loaded = true;
         Run(flag, [] { ReadSettings(); });
     }
     Run(flag, [] { LoadToolbox(); });

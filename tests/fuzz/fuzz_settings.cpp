@@ -62,13 +62,13 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
             desktop = &screen;
             Read();
             const auto values = Values();
-            frmPrefs_cmdSave_Click();
+            WriteSettings();
             const auto saved = ReadAll(path);
             const auto kept = OtherLines(bytes);
             Check(OtherLines(saved).substr(0, kept.size()) == kept, "a save lost a line");
             Read();
             Check(Values() == values, "what was saved came back changed");
-            frmPrefs_cmdSave_Click();
+            WriteSettings();
             Check(ReadAll(path) == saved, "a second save differs");
         });
 }

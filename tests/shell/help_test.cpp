@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: MIT
+#include "shell/about.h"
 #include "shell/help.h"
 
 #include <algorithm>

@@ -17,7 +17,7 @@
 #include "diagram/worksheet.h"
 #include "qt/dispatch.h"
 #include "qt/screen_units.h"
-#include "shell/help.h"
+#include "shell/about.h"
 #include "support/table_file.h"
 #include "toolbox/toolbox_config.h"
 #include "window/window_fixture.h"

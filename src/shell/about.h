@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "platform/controls.h"
+#include "platform/form.h"
+
+namespace quorvane {
+
+/// The dialog with the program's name and a line of text that runs in a ring.
+struct AboutForm {
+    FormState Form = {.Caption = "About Quorvane"};
+    Label Label1 = {.Caption = "Quorvane"};
+    Label lblName;
+    Button cmdOK = {.Caption = "OK"};
+};
+extern AboutForm frmAbout;
+
+void mnuHelpAbout_Click();
+/// A tick: the first character of the line goes to its end.
+void frmAbout_Timer1_Timer();
+void frmAbout_cmdOK_Click();
+Form frmAbout_Table();
+
+/// The dialog with the terms of use.
+struct DisclaimerForm {
+    FormState Form = {.Caption = "Disclaimer"};
+    Label Label1;
+    Button cmdOK = {.Caption = "OK"};
+};
+extern DisclaimerForm frmDisclaimer;
+
+void mnuHelpDisclaimer_Click();
+void frmDisclaimer_cmdOK_Click();
+Form frmDisclaimer_Table();
+
+}  // namespace quorvane
