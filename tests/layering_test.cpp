@@ -103,7 +103,8 @@ Faults FaultsOf(const Tree& tree) {
     Arrows folders;
     for (const auto& [path, targets] : arrows) {
         for (const auto& target : targets) {
-            if (FolderOf(target) != FolderOf(path)) folders[FolderOf(path)].insert(FolderOf(target));
+            if (FolderOf(target) != FolderOf(path))
+                folders[FolderOf(path)].insert(FolderOf(target));
         }
     }
     AddRings(folders, faults);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "shell/about.h"
 #include "shell/help.h"
+#include "shell/about.h"
 
 #include <algorithm>
 #include <regex>
