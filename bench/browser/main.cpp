@@ -15,10 +15,10 @@
 #include <functional>
 
 #include "commands/command_browser_door.h"
-#include "qt/dispatch.h"
-#include "qt/form_view.h"
-#include "qt/frame_view.h"
-#include "qt/qt_desktop.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/qt_desktop.h"
+#include "qt/dialogs/form_view.h"
+#include "qt/frame/frame_view.h"
 #include "shell/application.h"
 
 namespace {

@@ -9,8 +9,8 @@
 #include "files/document_file.h"
 #include "generator/output_targets.h"
 #include "matlab_link/link.h"
-#include "qt/frame_view.h"
-#include "qt/qt_desktop.h"
+#include "qt/desktop/qt_desktop.h"
+#include "qt/frame/frame_view.h"
 #include "shell/application.h"
 
 /// What the link to a living Octave costs: each figure with its target. The argument is the path of

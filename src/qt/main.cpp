@@ -6,9 +6,9 @@
 #include <cstdlib>
 
 #include "files/document_file.h"
-#include "qt/dispatch.h"
-#include "qt/frame_view.h"
-#include "qt/qt_desktop.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/qt_desktop.h"
+#include "qt/frame/frame_view.h"
 #include "quorvane/version.h"
 #include "shell/application.h"
 #include "shell/start_up.h"

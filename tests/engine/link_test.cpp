@@ -11,8 +11,8 @@
 #include "generator/output_targets.h"
 #include "matlab_link/link.h"
 #include "platform/runtime_error.h"
-#include "qt/dispatch.h"
-#include "qt/qt_desktop.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/qt_desktop.h"
 #include "support/diagram_fixture.h"
 
 namespace quorvane::testing {

@@ -9,7 +9,7 @@
 
 #include "diagram/worksheet.h"
 #include "platform/runtime_error.h"
-#include "qt/dispatch.h"
+#include "qt/desktop/dispatch.h"
 #include "window/window_fixture.h"
 
 namespace quorvane::testing {

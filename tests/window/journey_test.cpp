@@ -9,7 +9,7 @@
 #include <QToolButton>
 #include <QTreeWidget>
 
-#include "qt/dispatch.h"
+#include "qt/desktop/dispatch.h"
 #include "window/window_fixture.h"
 
 namespace quorvane::testing {

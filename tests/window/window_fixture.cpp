@@ -20,8 +20,8 @@
 #include <QTest>
 #include <QTimer>
 
-#include "qt/dispatch.h"
-#include "qt/worksheet_view.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/sheet/worksheet_view.h"
 #include "shell/application.h"
 #include "shell/start_up.h"
 

@@ -9,8 +9,8 @@
 #include <memory>
 
 #include "files/work_folder.h"
-#include "qt/frame_view.h"
-#include "qt/qt_desktop.h"
+#include "qt/desktop/qt_desktop.h"
+#include "qt/frame/frame_view.h"
 
 class QMdiSubWindow;
 

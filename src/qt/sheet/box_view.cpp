@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/box_view.h"
+#include "qt/sheet/box_view.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -11,10 +11,10 @@
 
 #include "commands/worksheet_events.h"
 #include "diagram/box_table.h"
-#include "qt/dispatch.h"
-#include "qt/icon_strip.h"
-#include "qt/mouse.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/sheet/mouse.h"
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/icon_strip.h"
+#include "qt/desktop/icon_strip.h"
 
 #include <QFile>
 #include <QPainter>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/config_toolbox_view.h"
+#include "qt/dialogs/config_toolbox_view.h"
 
 #include <QApplication>
 #include <QDrag>
@@ -10,10 +10,10 @@
 #include <algorithm>
 
 #include "commands/worksheet_events.h"
-#include "qt/dispatch.h"
-#include "qt/icon_strip.h"
-#include "qt/mouse.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/sheet/mouse.h"
 #include "toolbox/toolbox_config.h"
 
 namespace quorvane {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/worksheet_view.h"
+#include "qt/sheet/worksheet_view.h"
 
 #include <QKeyEvent>
 #include <QLabel>
@@ -11,13 +11,13 @@
 #include "catalogue/icon_table.h"
 #include "diagram/connections.h"
 #include "diagram/layout.h"
-#include "qt/box_view.h"
-#include "qt/dispatch.h"
-#include "qt/icon_strip.h"
-#include "qt/screen_units.h"
-#include "qt/shape_painter.h"
-#include "qt/surface_view.h"
-#include "qt/tour_view.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/sheet/box_view.h"
+#include "qt/sheet/shape_painter.h"
+#include "qt/sheet/surface_view.h"
+#include "qt/sheet/tour_view.h"
 
 namespace quorvane {
 

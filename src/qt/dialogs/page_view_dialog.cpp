@@ -1,15 +1,15 @@
 // SPDX-License-Identifier: MIT
-#include "qt/page_view_dialog.h"
+#include "qt/dialogs/page_view_dialog.h"
 
 #include <QPainter>
 #include <QPushButton>
 
 #include "diagram/box_table.h"
 #include "diagram/page_view.h"
-#include "qt/dispatch.h"
-#include "qt/icon_strip.h"
-#include "qt/screen_units.h"
-#include "qt/shape_painter.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/sheet/shape_painter.h"
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/dispatch.h"
+#include "qt/desktop/dispatch.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "qt/tour_view.h"
+#include "qt/sheet/tour_view.h"
 
 #include <QKeyEvent>
 
-#include "qt/dispatch.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
 #include "shell/tour.h"
 
 namespace quorvane {

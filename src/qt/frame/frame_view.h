@@ -5,7 +5,7 @@
 #include <QMainWindow>
 #include <memory>
 
-#include "qt/menu_bar.h"
+#include "qt/frame/menu_bar.h"
 
 class QMdiArea;
 class QMdiSubWindow;

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/mouse.h"
+#include "qt/sheet/mouse.h"
 
 #include <QUuid>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/wrapped_text.h"
+#include "qt/dialogs/wrapped_text.h"
 
 #include <QFontMetrics>
 #include <QStringList>

@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: MIT
-#include "qt/toolbox_view.h"
+#include "qt/frame/toolbox_view.h"
 
 #include <QCloseEvent>
 #include <QScreen>
 #include <QToolButton>
 
-#include "qt/dispatch.h"
-#include "qt/icon_strip.h"
-#include "qt/menu_bar.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/frame/menu_bar.h"
 #include "toolbox/toolbox.h"
 
 namespace quorvane {

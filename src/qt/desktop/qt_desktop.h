@@ -2,7 +2,7 @@
 #pragma once
 
 #include "platform/desktop.h"
-#include "qt/matlab_process.h"
+#include "qt/link/matlab_process.h"
 
 namespace quorvane {
 

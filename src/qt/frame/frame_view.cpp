@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/frame_view.h"
+#include "qt/frame/frame_view.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -13,12 +13,12 @@
 #include <cmath>
 
 #include "files/close_document.h"
-#include "qt/dispatch.h"
-#include "qt/form_view.h"
-#include "qt/results_view.h"
-#include "qt/splash_view.h"
-#include "qt/toolbox_view.h"
-#include "qt/worksheet_view.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/dialogs/form_view.h"
+#include "qt/frame/splash_view.h"
+#include "qt/frame/toolbox_view.h"
+#include "qt/link/results_view.h"
+#include "qt/sheet/worksheet_view.h"
 #include "shell/frame.h"
 #include "toolbox/toolbox.h"
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "qt/shape_painter.h"
+#include "qt/sheet/shape_painter.h"
 
 #include <QPolygonF>
 #include <cmath>
 #include <numbers>
 
-#include "qt/screen_units.h"
+#include "qt/desktop/screen_units.h"
 
 namespace quorvane {
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: MIT
-#include "qt/menu_bar.h"
+#include "qt/frame/menu_bar.h"
 
 #include <QMenu>
 #include <utility>
 
-#include "qt/dispatch.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
 #include "shell/menus.h"
 
 namespace quorvane {

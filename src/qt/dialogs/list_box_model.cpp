@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: MIT
-#include "qt/list_box_model.h"
+#include "qt/dialogs/list_box_model.h"
 
 #include "platform/numbers.h"
 #include "platform/paths.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/screen_units.h"
 
 namespace quorvane {
 

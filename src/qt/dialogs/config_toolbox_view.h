@@ -5,7 +5,7 @@
 #include <functional>
 #include <vector>
 
-#include "qt/form_view.h"
+#include "qt/dialogs/form_view.h"
 
 class QScrollBar;
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/matrix_dialog.h"
+#include "qt/dialogs/matrix_dialog.h"
 
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -8,8 +8,8 @@
 #include <QVBoxLayout>
 
 #include "commands/matrix_input.h"
-#include "qt/dispatch.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
 
 namespace quorvane {
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/splash_view.h"
+#include "qt/frame/splash_view.h"
 
 #include <QGuiApplication>
 #include <QIcon>
@@ -7,8 +7,8 @@
 #include <QScreen>
 #include <QVBoxLayout>
 
-#include "qt/dispatch.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
 #include "shell/start_up.h"
 
 namespace quorvane {

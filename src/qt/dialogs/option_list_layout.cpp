@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/option_list_layout.h"
+#include "qt/dialogs/option_list_layout.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
-#include "qt/screen_units.h"
+#include "qt/desktop/screen_units.h"
 
 namespace quorvane {
 

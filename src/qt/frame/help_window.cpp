@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/help_window.h"
+#include "qt/frame/help_window.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -14,8 +14,8 @@
 #include <QToolBar>
 #include <QTreeWidget>
 
-#include "qt/frame_view.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/frame/frame_view.h"
 #include "shell/manual_index.h"
 
 namespace quorvane {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/surface_view.h"
+#include "qt/sheet/surface_view.h"
 
 #include <QCoreApplication>
 #include <QCursor>
@@ -9,11 +9,11 @@
 #include <QPainter>
 
 #include "commands/worksheet_events.h"
-#include "qt/box_view.h"
-#include "qt/dispatch.h"
-#include "qt/mouse.h"
-#include "qt/screen_units.h"
-#include "qt/shape_painter.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/sheet/box_view.h"
+#include "qt/sheet/mouse.h"
+#include "qt/sheet/shape_painter.h"
 
 namespace quorvane {
 

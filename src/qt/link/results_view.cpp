@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/results_view.h"
+#include "qt/link/results_view.h"
 
 #include <QCloseEvent>
 #include <QFontDatabase>
@@ -10,8 +10,8 @@
 #include <QScrollBar>
 
 #include "generator/output_targets.h"
-#include "qt/dispatch.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
 
 namespace quorvane {
 

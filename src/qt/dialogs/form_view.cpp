@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/form_view.h"
+#include "qt/dialogs/form_view.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -24,14 +24,14 @@
 #include <utility>
 
 #include "platform/numbers.h"
-#include "qt/dispatch.h"
-#include "qt/form_layouts.h"
-#include "qt/icon_strip.h"
-#include "qt/list_box_model.h"
-#include "qt/option_list_layout.h"
-#include "qt/screen_units.h"
-#include "qt/shape_painter.h"
-#include "qt/wrapped_text.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/dialogs/form_layouts.h"
+#include "qt/dialogs/list_box_model.h"
+#include "qt/dialogs/option_list_layout.h"
+#include "qt/dialogs/wrapped_text.h"
+#include "qt/sheet/shape_painter.h"
 #include "shell/about.h"
 
 namespace quorvane {

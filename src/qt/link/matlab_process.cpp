@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/matlab_process.h"
+#include "qt/link/matlab_process.h"
 
 #include <QApplication>
 #include <QDir>
@@ -16,7 +16,7 @@
 
 #include "matlab_link/link.h"
 #include "platform/runtime_error.h"
-#include "qt/dispatch.h"
+#include "qt/desktop/dispatch.h"
 
 namespace quorvane {
 

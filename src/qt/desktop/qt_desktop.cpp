@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "qt/qt_desktop.h"
+#include "qt/desktop/qt_desktop.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -19,16 +19,16 @@
 #include "diagram/preferences.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
-#include "qt/config_toolbox_view.h"
-#include "qt/dispatch.h"
-#include "qt/form_view.h"
-#include "qt/frame_view.h"
-#include "qt/help_window.h"
-#include "qt/matrix_dialog.h"
-#include "qt/page_view_dialog.h"
-#include "qt/screen_units.h"
-#include "qt/shape_painter.h"
-#include "qt/wrapped_text.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/dialogs/config_toolbox_view.h"
+#include "qt/dialogs/form_view.h"
+#include "qt/dialogs/matrix_dialog.h"
+#include "qt/dialogs/page_view_dialog.h"
+#include "qt/dialogs/wrapped_text.h"
+#include "qt/frame/frame_view.h"
+#include "qt/frame/help_window.h"
+#include "qt/sheet/shape_painter.h"
 #include "shell/forms.h"
 
 namespace quorvane {
