@@ -89,7 +89,7 @@ std::vector<Box> Nested(int count) {
         Connect(boxes, inner, test);
         Connect(boxes, test, arm);
         Connect(boxes, arm, endOfArm);
-        // The walk goes on behind a branch by the third exit.
+        // The walk continues after a branch by the third exit.
         Numbered(boxes, test).BoxOut[3] = static_cast<std::int16_t>(innerNext);
         Numbered(boxes, innerNext).BoxIn[1] = static_cast<std::int16_t>(test);
         Connect(boxes, innerNext, outerNext);

@@ -36,7 +36,7 @@ ExitRange InnerExits(const Box& box) {
     return arms == 0 ? AllExits : ExitRange{1, arms};
 }
 
-/// Where the walk goes on behind a box on its own level.
+/// Where the walk continues after a box, on its own level.
 std::vector<int> Blocks::Behind(int number) {
     const Box& box = Boxes[number];
     if (IsCloser(box.BoxType)) return {};

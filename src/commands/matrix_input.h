@@ -28,7 +28,7 @@ struct MatrixGrid {
 struct MatrixForm {
     FormState Form;
     MatrixGrid grid;
-    TextBox mat;  ///< "[", the rows parted by "; ", without a closing bracket
+    TextBox mat;  ///< "[", the rows separated by "; ", without a closing bracket
     Button cmdOK{"OK"};
 };
 extern MatrixForm frmMatrix;
@@ -38,7 +38,7 @@ void frmMatrix_Load();
 /// current cell, any other key appends its character.
 void frmMatrix_grid_KeyDown(int keyCode, std::string_view character);
 void frmMatrix_cmdOK_Click();
-/// Without the grid, which the screen shows by its own means.
+/// Without the grid, which has a view of its own.
 Form frmMatrix_Table();
 
 }  // namespace quorvane

@@ -6,7 +6,7 @@
 
 namespace quorvane {
 
-/// The dialog in which the text of a comment is written. Whoever opens it puts the text in and
+/// The dialog in which the text of a comment is written. The caller puts the text in and
 /// takes it out.
 struct CommentForm {
     FormState Form = {.Caption = "Add a Comment"};

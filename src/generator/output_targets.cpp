@@ -128,7 +128,7 @@ std::string FoldFirstPlot(std::string_view script) {
                 folded += ';';
                 continue;
             }
-            // The scan goes on behind the place of the cut, so the next character is passed over.
+            // The scan continues after the cut, so that the next character is skipped.
             if (script.empty()) break;
         }
         folded += script[0];

@@ -45,7 +45,7 @@ std::string AddFunctionHeader(std::string& path, const std::string& script);
 /// Compiles the worksheet into a running MATLAB, box by box, with the window of its answers open.
 void mnuEXEMatlab_Click(Worksheet& sheet);
 
-/// Empties the log. A run into an open window goes on behind the log of the one before.
+/// Empties the log. A run appends to the log while the window is open.
 void frmTextResults_Load();
 /// Also what closing the window does.
 void frmTextResults_cmdOK_Click();

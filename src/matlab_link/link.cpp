@@ -112,7 +112,7 @@ void Ask(Job& job, const Mark& mark) {
         line = AskForLine(mark.Text, "Quorvane", "");
         InsertText(job.Reader, mark.Text + line + "\n");
     } else {
-        Tell("The script waits. OK goes on.", Icon::Information);
+        Tell("The script is paused. Press OK to continue.", Icon::Information);
     }
     desktop->WriteEngine(line + "\n");
     job.SentAt = desktop->Milliseconds();

@@ -39,7 +39,7 @@ struct Desktop {
     /// Asks for one line of text; a cancelled prompt gives "". The core calls it by AskForLine.
     virtual std::string InputBox(const std::string& prompt, const std::string& title,
                                  const std::string& defaultText) = 0;
-    /// Ask for a file. `filter` holds pairs of name and pattern parted by "|", `fileName` is the
+    /// Ask for a file. `filter` holds pairs of name and pattern separated by "|", `fileName` is the
     /// name shown first. Cancelling raises error 32755.
     virtual std::string OpenFileDialog(const std::string& filter, const std::string& fileName) = 0;
     virtual std::string SaveFileDialog(const std::string& filter, const std::string& fileName) = 0;
@@ -59,7 +59,7 @@ struct Desktop {
     /// Arranges the worksheets: 0 cascade, 1 tile horizontally, 2 the icons of minimised ones.
     virtual void ArrangeWindows(int how) = 0;
     virtual void SetClipboardText(const std::string& text) = 0;
-    /// The seconds of the clock, 0 to 59. Whoever waits by it reads it again and again.
+    /// The seconds of the clock, 0 to 59. A wait polls it.
     virtual int ClockSeconds() = 0;
     /// Brings the screen up to the records at once, in the middle of a handler.
     virtual void PaintNow() = 0;
@@ -92,7 +92,7 @@ struct Desktop {
         const std::string& section) = 0;
 };
 
-/// The desktop in use. Whoever starts the program sets it before anything else runs.
+/// The desktop in use. The main program sets it before anything else runs.
 extern Desktop* desktop;
 
 /// Asks for one line of text by InputBox, and makes it one where line ends were pasted.

@@ -15,7 +15,7 @@
 
 namespace {
 
-/// Qt tells of a missing screen in many lines and ends by a crash; here it is one line and an
+/// Qt reports a missing screen in many lines and crashes; here it is one line and an
 /// ordinary end.
 void TellFatal(QtMsgType type, const QMessageLogContext& context, const QString& text) {
     if (type != QtFatalMsg) {

@@ -53,7 +53,7 @@ void frmConfigToolbox_opnFileName_Click();
 /// when that fails too, the user is told and the dialog stays.
 void frmConfigToolbox_cmdOK_Click();
 void frmConfigToolbox_cmdCancel_Click();
-/// Without cmdPict, pnlToolbox and cmdButton, which the screen shows by its own means.
+/// Without cmdPict, pnlToolbox and cmdButton, which has a view of its own.
 Form frmConfigToolbox_Table();
 
 void mnuOptionsConfigureToolbox_Click(Worksheet& sheet);

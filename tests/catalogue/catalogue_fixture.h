@@ -40,7 +40,7 @@ void Put(T& control, const std::string& value) {
     if constexpr (std::is_same_v<T, OptionButton>) control.Value = true;
 }
 
-/// Plays steps, parted by "|", in a dialog that has come up: "txtFrom=2" types, "spn=-1" moves,
+/// Plays steps, separated by "|", in a dialog that has come up: "txtFrom=2" types, "spn=-1" moves,
 /// "chkGrid", "opn(3)" and "cmdOK" click, "lblSecs?0" looks at what is shown. Tells whether the
 /// dialog still stands at the end; throws for a step behind the one that has hidden it.
 inline bool Play(std::string_view dialog, const std::string& steps) {

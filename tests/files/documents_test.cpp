@@ -74,7 +74,7 @@ std::string Entries(const CheckedArray<MenuItem, 0, 4>& menu) {
     return entries;
 }
 
-/// The files that are there, parted by blanks.
+/// The files that are there, separated by blanks.
 std::string Names() {
     std::string names;
     for (const auto& name : NamesIn(".")) names += (names.empty() ? "" : " ") + name;

@@ -22,7 +22,7 @@ protected:
     static std::string Whole(const std::string& ofBox4) {
         return Crlf("box1=1;\nbox3=3;\nbox2=2;\n" + ofBox4 + "box5=box4\n");
     }
-    /// All that was asked and told, the last message excepted, parted by ", ".
+    /// All that was asked and told, the last message excepted, separated by ", ".
     std::string Asked() const {
         Texts asked = Told();
         asked.pop_back();

@@ -29,7 +29,7 @@ inline std::string Joined(const Texts& parts, const std::string& separator) {
     return line;
 }
 
-/// Numbers parted by blanks.
+/// Numbers separated by blanks.
 inline std::vector<int> Numbers(const std::string& line) {
     std::vector<int> numbers;
     for (const auto& part : Split(line, ' ')) {

@@ -69,7 +69,7 @@ protected:
         EXPECT_EQ(awaited_, "");
     }
 
-    /// What was noted since it was asked last, parted by " | ".
+    /// What was noted since it was asked last, separated by " | ".
     template <class T>
     static std::string Taken(std::vector<T>& notes) {
         std::string text;

@@ -39,9 +39,9 @@ inline std::string Unescaped(const std::string& cell) {
     return text;
 }
 
-/// The rows of a table of cells parted by TAB. Empty lines and those that begin with "#" are none;
-/// the first line, "# " and the names of the columns, tells how many cells a row has: missing ones
-/// read as "". One cell more stands behind them, which tells the row's place as "file:line".
+/// The rows of a table of cells separated by TABs. Empty lines and those that begin with "#" are
+/// none; the first line, "# " and the names of the columns, tells how many cells a row has: missing
+/// ones read as "". One cell more stands behind them, which tells the row's place as "file:line".
 /// `path` counts from tests/. Throws when there is no row, or one with too many cells.
 inline std::vector<std::vector<std::string>> ReadTable(const std::filesystem::path& path) {
     std::ifstream file(std::filesystem::path(QUORVANE_SOURCE_DIR "/tests") / path);

@@ -11,7 +11,7 @@
 
 namespace quorvane::testing {
 
-/// Left, top and face of each visible icon from 1, "left,top,face" parted by blanks.
+/// Left, top and face of each visible icon from 1, "left,top,face" separated by blanks.
 static std::string Show(const ControlArray<IconButton>& icons) {
     std::string shown;
     for (int i = 1; i < icons.Size(); ++i) {

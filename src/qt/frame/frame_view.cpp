@@ -126,7 +126,7 @@ FrameView::FrameView() {
     Refresh();
 }
 
-/// The area tells of its windows' end when this is no more.
+/// The area reports the end of its windows after this has been destroyed.
 FrameView::~FrameView() {
     disconnect(area_, nullptr, this, nullptr);
     RefreshScreen = [] {};

@@ -101,7 +101,7 @@ void HelpWindow::Read(const QTreeWidgetItem* page) {
     text_->scrollToAnchor(page->data(0, Qt::UserRole).toString());
 }
 
-/// The headings of the manual are its contents; each is found again by the anchor in front of it.
+/// The headings of the manual are its contents; each is found by its anchor.
 void HelpWindow::FillContents() {
     const QSignalBlocker quiet(contents_);
     contents_->clear();
