@@ -15,7 +15,8 @@ namespace quorvane {
 /// and ends the program.
 void Dispatch(const std::function<void()>& handler, const QWidget* source = nullptr);
 
-/// The same for a window that takes a new size: that may come at any time and disturbs no handler.
+/// The same for a window that takes a new size or state or comes to the front: that may come at any
+/// time and disturbs no handler.
 void DispatchLayout(const std::function<void()>& handler);
 
 /// Lets the events of a dialog in, as long as this lives.

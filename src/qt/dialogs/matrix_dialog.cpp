@@ -79,8 +79,12 @@ MatrixDialog::MatrixDialog(QWidget* parent) : QDialog(parent) {
     });
     connect(grid_, &QTableWidget::currentCellChanged, this, [this](int row, int column) {
         if (row < 0 || column < 0) return;
-        frmMatrix.grid.Row = row + 1;
-        frmMatrix.grid.Col = column + 1;
+        Dispatch(
+            [&] {
+                frmMatrix.grid.Row = row + 1;
+                frmMatrix.grid.Col = column + 1;
+            },
+            this);
         Refresh();
     });
     Refresh();

@@ -8,9 +8,11 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QVBoxLayout>
 #include <cmath>
+#include <utility>
 
 #include "files/close_document.h"
 #include "qt/desktop/dispatch.h"
@@ -87,7 +89,7 @@ protected:
         QMdiSubWindow::changeEvent(event);
         if (event->type() != QEvent::WindowStateChange) return;
         if (Documents.UpperBound() < view_->Document() || !Documents[view_->Document()]) return;
-        DocumentWindow(view_->Document()).Minimized = isMinimized();
+        DispatchLayout([this] { DocumentWindow(view_->Document()).Minimized = isMinimized(); });
     }
 
 private:
@@ -162,7 +164,16 @@ void FrameView::CloseMissing() {
     }
 }
 
+/// A window that opens or closes here takes a size or comes to the front, which are events: what
+/// they change is shown in another round.
 void FrameView::Refresh() {
+    isStale_ = true;
+    if (refreshing_) return;
+    const QScopedValueRollback<bool> refreshing(refreshing_, true);
+    while (std::exchange(isStale_, false)) ShowRecords();
+}
+
+void FrameView::ShowRecords() {
     CloseMissing();
     for (int i = 1; i <= Documents.UpperBound(); ++i) {
         if (!Documents[i] || !Documents[i]->Shown) continue;
@@ -179,9 +190,12 @@ void FrameView::Refresh() {
 void FrameView::Activated(QMdiSubWindow* window) {
     // The area reports "none" also while the whole program is in the background.
     if (!window && area_->currentSubWindow()) return;
-    activeDocument = window ? static_cast<WorksheetView*>(window->widget())->Document() : 0;
-    if (activeDocument > 0 && Documents[activeDocument]) main_Activate(*Documents[activeDocument]);
-    ShowMenus();
+    DispatchLayout([window] {
+        activeDocument = window ? static_cast<WorksheetView*>(window->widget())->Document() : 0;
+        if (activeDocument > 0 && Documents[activeDocument]) {
+            main_Activate(*Documents[activeDocument]);
+        }
+    });
 }
 
 void FrameView::ShowMenus() {

@@ -39,6 +39,7 @@ private:
     WorksheetView* ViewOf(int document) const;
     void OpenWindow(int document);
     void CloseMissing();
+    void ShowRecords();
     void Activated(QMdiSubWindow* window);
     void ShowMenus();
     void ListWindows();
@@ -52,6 +53,8 @@ private:
     MenuSet documentMenus_;
     bool showsDocumentMenus_ = false;
     bool showsAny_ = false;
+    bool refreshing_ = false;
+    bool isStale_ = false;  ///< The records have changed since they were shown
     QList<QAction*> windowList_;
 };
 

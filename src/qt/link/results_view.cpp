@@ -84,7 +84,8 @@ void ResultsView::Grow() {
 
 void ResultsView::changeEvent(QEvent* event) {
     QWidget::changeEvent(event);
-    if (event->type() == QEvent::WindowStateChange) frmTextResults.Minimized = isMinimized();
+    if (event->type() != QEvent::WindowStateChange) return;
+    DispatchLayout([this] { frmTextResults.Minimized = isMinimized(); });
 }
 
 void ResultsView::closeEvent(QCloseEvent* event) {
