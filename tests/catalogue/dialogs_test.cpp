@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/catalogue_fixture.h"
+#include "catalogue/icon_table.h"
 #include "commands/command_browser_door.h"
 #include "commands/flow_dialogs.h"
 #include "commands/function_dialogs.h"
@@ -14,41 +15,40 @@ struct Dialogs : CatalogueTest {
         Draw({{"a Subroutine"}, {"End Subroutine"}, {"Sin"}});
         Draw({{"Insert Subroutine a"}, {" Subroutine"}, {"a subroutine"}});
     }
+    /// The type that a command with this dialog gives.
+    static std::string_view TypeOf(std::string_view dialog) {
+        const auto command =
+            std::find_if(boxCommands.begin(), boxCommands.end(),
+                         [&](const BoxCommand& row) { return row.Dialog == dialog; });
+        return command->BoxType;
+    }
 };
 
-TEST_F(Dialogs, EachListShowsItsOptions) {
-    const auto rows = ReadTable("catalogue/option_lists.tsv");
-    const auto options = ReadTable("catalogue/options.tsv");
-    ASSERT_EQ(optionLists.size(), rows.size());
-    for (std::size_t i = 0; i < rows.size(); ++i) {
-        const auto& row = rows[i];
-        const auto& list = optionLists[i];
-        SCOPED_TRACE(row.back());
-        frmOptionList_Load(list);
-        EXPECT_EQ(list.Dialog, row[0]);
-        EXPECT_EQ(frmOptionList.Form.Caption, row[1]);
-        EXPECT_EQ(list.FrameCaption, row[2]);
-        EXPECT_EQ(list.Field.Caption, row[3]);
-        Texts shown, expected;
-        for (const auto& control : FindForm(row[0])->Controls) {
-            if (!std::holds_alternative<OptionButton*>(control.Record)) continue;
-            shown.push_back(control.Name + " " + Shown(control.Record));
-        }
-        for (const auto& option : options) {
-            if (option[0] == row[0]) expected.push_back(option[1] + " " + option[2]);
-        }
-        EXPECT_EQ(shown, expected);
-    }
-}
-
 TEST_F(Dialogs, EachOptionMakesItsBox) {
-    for (const auto& row : ReadTable("catalogue/options.tsv")) {
-        SCOPED_TRACE(row.back());
-        Restart();
-        const auto& box = Make(row[0], (row[4] == "7.5" ? "txtConst=7.5|" : "") + row[1]);
-        EXPECT_FALSE(Stands);
-        EXPECT_EQ(Row(box), RowAt(row, 3));
-        EXPECT_EQ(NumberText(Sheet().box[7].Picture), row[7]);
+    for (const auto& list : optionLists) {
+        for (const auto& option : list.Options) {
+            const auto name = OptionName(list, option);
+            const bool basic = list.Dialog == "frmBasic";
+            if (name.empty() || (option.Index == NoIndex && !basic)) continue;
+            SCOPED_TRACE(std::string(list.Dialog) + " " + name);
+            Restart();
+            std::string steps = name, text = option.BoxText ? option.BoxText : "";
+            if (const auto hole = text.find("{field}"); hole != std::string::npos) {
+                const bool typed = list.Field.What == ListField::Kind::Text;
+                steps = (typed ? std::string(list.Field.Control) + "=7.5|" : "") + steps;
+                text.replace(hole, 7, typed ? "7.5" : "");
+            }
+            const auto row = Row(Make(std::string(list.Dialog), steps));
+            EXPECT_FALSE(Stands);
+            EXPECT_EQ(row[0], option.BoxType.empty() ? TypeOf(list.Dialog) : option.BoxType);
+            EXPECT_EQ(row[1], text);
+            EXPECT_EQ(row[2], option.Entries ? option.Entries : list.Entries);
+            EXPECT_EQ(row[3], "12345");
+            const int picture = Sheet().box[7].Picture;
+            EXPECT_TRUE(picture != FallbackCell || row[0] == "wavwrite") << picture;
+            EXPECT_TRUE(IconCell(row[0]) == picture || IconCell(text) == picture ||
+                        text.starts_with("Diag"));
+        }
     }
 }
 

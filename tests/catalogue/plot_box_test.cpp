@@ -4,6 +4,7 @@
 #include <set>
 
 #include "catalogue/catalogue_fixture.h"
+#include "catalogue/icon_table.h"
 
 namespace quorvane::testing {
 
@@ -31,21 +32,25 @@ TEST_F(PlotBox, EachTypeComposesItsCommand) {
 TEST_F(PlotBox, EachTypeAdaptsTheDialog) {
     for (int i = 1; i <= 2; ++i) frmPlot_Load();  // Each load starts from empty lists.
     Texts names;
-    for (const auto& row : ReadTable("catalogue/graph_types.tsv")) {
-        SCOPED_TRACE(row.back());
-        names.push_back(row[0]);
-        Play("frmPlot", "cmbType=" + row[0] + "|cmbType=no such type");  // which changes nothing
-        EXPECT_EQ(frmPlot.lblIcon, row[1]);
-        EXPECT_EQ(NumberText(frmPlot.pctType.Picture), row[4]);
+    for (const auto& type : graphTypes) {
+        SCOPED_TRACE(type.Name);
+        names.emplace_back(type.Name);
+        Play("frmPlot", "cmbType=" + names.back() + "|cmbType=no such type");  // changes nothing
+        EXPECT_EQ(frmPlot.lblIcon, type.Icon);
+        EXPECT_EQ(frmPlot.pctType.Picture, IconCell(type.Icon));
         for (const bool visible :
              {frmPlot.lblZAxis.Visible, frmPlot.chkInput1[3].Visible, frmPlot.chkInput2[3].Visible,
               frmPlot.chkInput3[3].Visible, frmPlot.txtZLabel.Visible, frmPlot.lblZLabel.Visible}) {
-            EXPECT_EQ(visible, !row[2].empty());
+            EXPECT_EQ(visible, type.Z != ZColumn::Hidden);
         }
-        EXPECT_EQ(row[2].empty() ? "" : frmPlot.lblZAxis.Caption, row[2]);
+        const bool errors = type.Name == "2-D Error Bars", flat = type.Name.starts_with("2-D");
+        if (type.Z != ZColumn::Hidden) {
+            EXPECT_TRUE(errors || !flat || type.Name == "2-D Contour Plot");
+            EXPECT_EQ(frmPlot.lblZAxis.Caption, errors ? "Err Bar" : "Z Axis");
+        }
         for (const bool enabled : {frmPlot.cmbLineColor.Enabled, frmPlot.cmbLineType.Enabled,
                                    frmPlot.cmbPoints.Enabled, frmPlot.sclLinenum.Enabled}) {
-            EXPECT_EQ(enabled, row[3] == "enabled");
+            EXPECT_EQ(enabled, type.LineControls);
         }
     }
     EXPECT_EQ(frmPlot.cmbType.List, names);

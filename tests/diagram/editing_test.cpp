@@ -20,8 +20,8 @@ using Numbers = std::vector<int>;
 class EditingTest : public StepTest, public ::testing::WithParamInterface<const char*> {
 protected:
     EditingTest() {
-        for (auto&& some : {RecordWords(), SheetWords(), FormWords(), Steps(), Handlers()}) {
-            words.insert(some.begin(), some.end());
+        for (const auto& some : {RecordWords(), SheetWords(), FormWords(), Steps(), Handlers()}) {
+            Know(some);
         }
     }
 
@@ -100,8 +100,6 @@ private:
             {"Minimized", OfSheet(&W::Minimized)},
             {"MousePointer", OfSheet(&W::MousePointer)},
             {"cmdEventFire", OfSheet(&W::cmdEventFire)},
-            {"scrH", OfSheet(&W::scrH, &ScrollBar::Value)},
-            {"scrV", OfSheet(&W::scrV, &ScrollBar::Value)},
             {"scrH.Max", OfSheet(&W::scrH, &ScrollBar::Max)},
             {"scrV.Max", OfSheet(&W::scrV, &ScrollBar::Max)},
             {"bars", Seen([](A a) {
@@ -113,7 +111,6 @@ private:
             {"pnlArrow", OfSheet(&W::pnlArrow, &ArrowPanel::BackColor)},
             {"HoldsArrow", OfSheet(&W::pnlArrow, &ArrowPanel::HoldsArrow)},
             {"MultipleArrows", OfSheet(&W::mnuMultipleArrows, &MenuItem::Checked)},
-            {"shpCopy", OfSheet(&W::shpCopy)},
             {"txtboxname", Seen([](A a) { return Sheet(a[0]).txtboxname; })},
             {"painted", Seen([](A a) { return Taken(Sheet(a[0]).Surface); })},
             {"arrows", Seen([](A a) {
@@ -140,9 +137,6 @@ private:
             {"color", Step([this](A a) { screen.Colors.push_back(a[0]); })},
             {"ColorStarts", Seen([this](A) { return Taken(screen.ColorStarts); })},
             {"chkShowBubbles", Global(frmPrefs.chkShowBubbles)},
-            {"frmComment.Loaded", Global(frmComment.Form.Loaded)},
-            {"frmInfo.Caption", Global(frmInfo.Form.Caption)},
-            {"frmInfo.Loaded", Global(frmInfo.Form.Loaded)},
             {"lblfunc", Seen([](A) { return frmInfo.lblfunc; })},
             {"lblFrom", Seen([](A) { return frmInfo.lblFrom; })},
             {"lblTo", Seen([](A) { return frmInfo.lblTo; })},

@@ -9,15 +9,15 @@ namespace quorvane::testing {
 class SettingsTest : public StepTest {
 protected:
     SettingsTest() {
-        Words some = {
-            {"folder", Step([this](A) { ProgramDirectory = folder.Path.string(); })},
+        Know({
+            {"home", Step([this](A) { ProgramDirectory = folder.Path.string(); })},
             {"read", Seen([this](A a) {
                  WriteAll("Quorvane.ini", a.Text);
                  return StateAfterReading();
              })},
             {"again", Seen([this](A) { return StateAfterReading(); })},
             {"state", Seen([](A) { return State(); })},
-            {"activate", Step([](A) { frmPrefs_Activate(); })},
+            {"frmPrefs_Activate", Step([](A) { frmPrefs_Activate(); })},
             {"drawn", Seen([](A) {
                  std::string lines;
                  for (const auto& line : frmPrefs.Surface) {
@@ -29,8 +29,7 @@ protected:
                  screen.Store["Recent Files"] = {{"RecentFile1", "a"}, {"RecentFile2", "b"}};
              })},
             {"recent", Seen([](A) { return frmMDI.mnuFileArray[1].Caption; })},
-        };
-        words.merge(some);
+        });
     }
 
     std::string StateAfterReading() {

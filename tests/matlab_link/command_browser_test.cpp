@@ -3,132 +3,154 @@
 
 #include "commands/command_browser_door.h"
 #include "commands/function_dialogs.h"
-#include "diagram/preferences.h"
-#include "files/document_fixture.h"
 #include "matlab_link/mfile_index.h"
-#include "support/table_file.h"
+#include "support/step_test.h"
 
-using namespace quorvane;
-using namespace quorvane::testing;
+namespace quorvane::testing {
 
-namespace {
-
-const std::string All = "zzz All M files zzz";
-
-std::string Joined(const std::vector<std::string>& texts) {
-    std::string all;
-    for (const auto& text : texts) all += (all.empty() ? "" : "|") + text;
-    return all;
-}
-
-class CommandBrowser : public DocumentTest {
-protected:
-    void SetUp() override {
-        DocumentTest::SetUp();
-        ProgramDirectory = folder.Path.string();
-        DriveRoots = {{'C', folder.Path.string() + "/"}};
-        screen.Forms["frmScanning"] = frmScanning_Activate;
-    }
-    static void MakeFiles(const std::string& below, std::initializer_list<const char*> names) {
-        std::filesystem::create_directory(below);
-        for (const std::string name : names) WriteAll(below + "/" + name, "");
-    }
-    static std::string Functions(const std::string& category) {
-        frmMatlab.cmbCategory.Text = category;
-        frmMatlab_cmbCategory_Click();
-        return Joined(frmMatlab.lstFunc.List);
-    }
+/// Remembers what the window of the scan says each time the screen is painted.
+struct WatchingDesktop : ScriptedDesktop {
+    void PaintNow() override { Seen.push_back(frmScanning.lblScanning.Caption); }
+    std::vector<std::string> Seen;
 };
 
-TEST_F(CommandBrowser, TheIndexIsListedByCategories) {
-    for (const auto& row : ReadTable("matlab_link/command_browser.tsv")) {
-        SCOPED_TRACE(row.back());
-        Restart();
-        WriteAll("mfiles.txt", row[0]);
-        frmMatlab_Load();
-        EXPECT_EQ(Joined(frmMatlab.cmbCategory.List), row[1]);
-        EXPECT_EQ(Functions(row[2]), row[3]);
-        EXPECT_TRUE(screen.FormsShown.empty());
+/// Plays the tables of the scan for M-files and of the browser. The program directory is program/,
+/// the drive is drive/.
+class BrowserTest : public StepTest {
+protected:
+    BrowserTest() {
+        Know({
+            {"make", Step([this](A a) { Make(a.Text); })},
+            {"index", Step([this](A a) { WriteAll(MFileIndex, Filled(a.Text)); })},
+            {"scan", Seen([this](A) { return Scan(); })},
+            {"drives", Global(frmPrefs.txtDrives.Text)},
+            {"load", Step([](A) { frmMatlab_Load(); })},
+            {"forget", Step([](A) { CategoryTable = GrowableArray<CategoryRecord>(1); })},
+            {"categories", Seen([this](A) { return Taken(Lists(frmMatlab.cmbCategory.List)); })},
+            {"files", Seen([this](A a) {
+                 if (!a.Text.empty()) {
+                     frmMatlab.cmbCategory.Text = a.Text;
+                     frmMatlab_cmbCategory_Click();
+                 }
+                 return Taken(Lists(frmMatlab.lstFunc.List));
+             })},
+            {"help", Seen([this](A a) { return HelpOf(a.Text); })},
+            {"click", Step([](A) {
+                 frmMatlab.lstFunc.ListIndex = 0;
+                 frmMatlab_lstFunc_Click();
+             })},
+            {"picked", Seen([this](A a) { return Picked(a[0], a.Text); })},
+            {"told", Seen([this](A) { return Taken(watching.Messages); })},
+            {"shown", Seen([this](A) { return Taken(watching.FormsShown); })},
+            {"answer", Step([this](A a) {
+                 watching.MessageAnswers = {a.Text == "yes" ? Answer::Yes : Answer::No};
+             })},
+        });
     }
-}
+    void SetUp() override {
+        StepTest::SetUp();
+        watching = {};
+        desktop = &watching;
+        watching.Forms["frmScanning"] = frmScanning_Activate;
+        for (const char* name : {"program", "drive"}) std::filesystem::create_directory(name);
+        ProgramDirectory = folder / "program";
+        ChangeDirectory(ProgramDirectory);
+        DriveRoots = {{'C', drive + "/"}};
+        frmPrefs.txtDrives.Text = "c";
+    }
+    void TearDown() override {
+        frmFunc = {};
+        frmMatlabFunction = {};
+        StepTest::TearDown();
+    }
 
-TEST_F(CommandBrowser, TheHelpIsTheFirstCommentOfTheFile) {
-    frmMatlab.lstFunc.List = {"f.m"};
-    for (const auto& row : ReadTable("matlab_link/help_texts.tsv")) {
-        SCOPED_TRACE(row.back());
-        WriteAll("f.m", row[0]);
-        frmMatlab.lstFunc.ListIndex = 0;
+    /// Makes empty files, and the folders in front of them, on the drive or in the folder "/...".
+    void Make(const std::string& names) {
+        for (const auto& name : Split(names, '|')) {
+            const auto path = name[0] == '/' ? folder.Path.string() + name : drive + "/" + name;
+            std::filesystem::create_directories(path.substr(0, path.rfind('/')));
+            if (!path.ends_with('/')) WriteAll(path, "");
+        }
+    }
+    /// What a scan writes, with "|" for the line ends and "@" for the drive.
+    std::string Scan() {
+        DirectoryList = GrowableArray<FoundDirectory>(1);
+        frmScanning_Activate();
+        EXPECT_EQ(CurrentDirectory(), ProgramDirectory);
+        return Shortened(ReadAll(MFileIndex));
+    }
+
+    const std::string drive = folder / "drive";
+    WatchingDesktop watching;
+
+private:
+    static std::string Replaced(std::string text, const std::string& what, const char* by) {
+        for (std::size_t at; (at = text.find(what)) < text.size();)
+            text.replace(at, what.size(), by);
+        return text;
+    }
+    std::string Shortened(const std::string& text) const {
+        return Replaced(Replaced(text, drive, "@"), "\r\n", "|");
+    }
+    std::string Filled(const std::string& text) const {
+        std::string filled;
+        for (const char c : text) filled += c == '@' ? drive : std::string(1, c);
+        return filled;
+    }
+    std::vector<std::string>& Lists(std::vector<std::string> list) {
+        for (auto& text : list) text = Shortened(text);
+        return shown_ = std::move(list);
+    }
+
+    std::string HelpOf(const std::string& text) {
+        WriteAll("f.m", text);
+        frmMatlab.lstFunc = {.List = {"f.m"}, .ListIndex = 0};
         frmMatlab.lblHelp.Caption = "another one";
         frmMatlab_lstFunc_Click();
-        EXPECT_EQ(frmMatlab.lblHelp.Caption, row[1]);
+        return frmMatlab.lblHelp.Caption;
     }
-    EXPECT_TRUE(screen.Messages.empty());
-}
 
-TEST_F(CommandBrowser, AnIndexThatIsMissingOrCutOffStartsAScan) {
-    MakeFiles("a", {"f.m", "g.m", "h.m"});
-    for (const std::string index : {"none", "", "[Directories]\r\na;/m/a\r\n"}) {
-        SCOPED_TRACE(index);
-        CategoryTable = GrowableArray<CategoryRecord>(1);
-        if (index != "none") WriteAll("mfiles.txt", index);
-        screen.FormsShown.clear();
-        frmMatlab_Load();
-        EXPECT_EQ(Joined(screen.FormsShown), "frmScanning");
-        EXPECT_EQ(Joined(frmMatlab.cmbCategory.List), "A|" + All);
-        EXPECT_EQ(Functions("A"), folder / "a/f.m" + "|" + folder / "a/g.m");
-    }
-}
-
-TEST_F(CommandBrowser, ARescanListsTheChosenCategoryAnew) {
-    WriteAll("mfiles.txt",
-             "[D]\nold;" + folder / "old" + "\n[Files]\n" + folder / "old/gone.m\nlast");
-    MakeFiles("new", {"f.m", "g.m"});
-    MakeFiles("old", {"h.m", "last.m"});
-    frmMatlab_Load();
-    EXPECT_EQ(Functions("Old"), folder / "old/gone.m");
-    frmMatlab.lblHelp.Caption = "help";
-    for (const auto answer : {Answer::No, Answer::Yes}) {
-        screen.MessageAnswers = {answer};
-        frmMatlab.lstFunc.ListIndex = 0;
-        frmMatlab_lstFunc_Click();
-        EXPECT_EQ(screen.Messages.back().Text,
-                  "File not found. Maybe the drives should be Rescan ?");
-        EXPECT_EQ(Joined(frmMatlab.lstFunc.List),
-                  folder / (answer == Answer::Yes ? "old/h.m" : "old/gone.m"));
-        EXPECT_EQ(frmMatlab.cmbCategory.Text, "Old");
-        EXPECT_EQ(frmMatlab.lblHelp.Caption.empty(), answer == Answer::Yes);
-    }
-    EXPECT_EQ(Joined(screen.FormsShown), "frmScanning");
-    EXPECT_EQ(Joined(frmMatlab.cmbCategory.List), "Old|" + All);
-    frmMatlab_Load();
-    EXPECT_EQ(Joined(frmMatlab.cmbCategory.List), "New|Old|" + All);
-    EXPECT_EQ(Functions("New"), folder / "new/f.m" + "|" + folder / "new/g.m");
-}
-
-TEST_F(CommandBrowser, TheNameGoesToWhoeverOpenedTheDialog) {
-    WriteAll("mfiles.txt", "[D]\n[Files]\n/a/Sin.m\n\\Foo.M\nx\nlast");
-    int entry = 0;
-    screen.Forms["frmMatlab"] = [&] {
-        EXPECT_EQ(frmFunc.Form.MousePointer + frmMatlabFunction.Form.MousePointer, 0);
-        Functions(All);
-        frmMatlab.lstFunc.ListIndex = entry;
-        frmMatlab_cmdOK_Click();
-        EXPECT_FALSE(frmMatlab.Form.Loaded);
-    };
-    const auto picked = [&](const char* caller, int chosen) {
-        entry = chosen;
+    /// What the two callers of the browser hold when a function was picked for one of them.
+    std::string Picked(int chosen, const std::string& caller) {
+        watching.Forms["frmMatlab"] = [=, this] {
+            EXPECT_EQ(frmFunc.Form.MousePointer + frmMatlabFunction.Form.MousePointer, 0);
+            frmMatlab.cmbCategory.Text = "zzz All M files zzz";
+            frmMatlab_cmbCategory_Click();
+            frmMatlab.lstFunc.ListIndex = chosen;
+            frmMatlab_cmdOK_Click();
+            EXPECT_FALSE(frmMatlab.Form.Loaded);
+        };
         frmMatlabFunction.txtFunc.Text = frmFunc.txtFunc.Text = "2*";
         OpenCommandBrowser(caller);
         return frmMatlabFunction.txtFunc.Text + "|" + frmFunc.txtFunc.Text;
-    };
-    EXPECT_EQ(picked("mat", 0), "Sin|2*");
-    EXPECT_EQ(picked("mat", 1), "Foo|2*");
-    EXPECT_EQ(picked("mat", 2), "|2*") << "no longer than .m";
-    EXPECT_EQ(picked("mat", -1), "|2*");
-    EXPECT_EQ(picked("func", 0), "2*|2*sin");
-    EXPECT_EQ(picked("func", -1), "2*|2*");
-    frmFunc = {};
-    frmMatlabFunction = {};
+    }
+
+    std::vector<std::string> shown_;
+};
+
+TEST_F(BrowserTest, Table) { PlayTable("matlab_link/command_browser.tsv"); }
+
+TEST_F(BrowserTest, LinksAreNotFollowedAndWhatIsNoFileIsNone) {
+    Make("a/f.m|a/d.m/|z/");
+    std::filesystem::create_directory_symlink("..", drive + "/a/loop");
+    std::filesystem::create_symlink("f.m", drive + "/a/to_file.m");
+    std::filesystem::create_symlink("d.m", drive + "/a/to_folder.m");
+    std::filesystem::create_symlink("itself.m", drive + "/a/itself.m");
+    EXPECT_EQ(Scan(), "[Directories]|a;@/a|[Files]|@/a/f.m|@/a/to_file.m|");
 }
 
-}  // namespace
+TEST_F(BrowserTest, TheWindowTellsHowFarItIsAlsoWhereNothingCanBeWritten) {
+    Make("a/f.m");
+    frmPrefs.txtDrives.Text = "aC";
+    frmScanning.Form.Visible = true;
+    std::filesystem::create_directory(MFileIndex);
+    frmScanning_Activate();
+    EXPECT_EQ(Taken(watching.Seen),
+              "Now scanning drive A: | Now scanning drive C: | Now writing directories. | "
+              "Now writing file names.");
+    EXPECT_FALSE(frmScanning.Form.Visible);
+    EXPECT_EQ(CategoryTable.UpperBound(), 2);
+    EXPECT_EQ(CategoryTable[2].name + CategoryTable[2].path, "a" + drive + "/a");
+}
+
+}  // namespace quorvane::testing

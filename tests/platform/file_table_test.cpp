@@ -5,38 +5,18 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include <functional>
-#include <map>
-
-#include "files/work_folder.h"
 #include "platform/child_process.h"
-#include "platform/raised_error.h"
-#include "support/table_file.h"
+#include "support/step_test.h"
 
-using namespace quorvane;
-using namespace quorvane::testing;
+namespace quorvane::testing {
+
 namespace fs = std::filesystem;
 
-namespace {
-
 /// What every test prints that wants to fill a buffer, or a disk.
-const std::string Flood(100000, 'x');
-
-/// Files by their plain names, in a work folder.
-class FileTable : public ::testing::Test {
-protected:
-    void SetUp() override { fs::current_path(folder.Path); }
-    void TearDown() override {
-        CloseAllFiles();
-        fs::current_path(before);
-    }
-
-    const fs::path before = fs::current_path();
-    WorkFolder folder;
-};
+static const std::string Flood(100000, 'x');
 
 /// Reads a text by lines, or by fields, each followed by "|".
-std::string PartsOf(const std::string& text, std::string_view read(int) = LineInput) {
+static std::string PartsOf(const std::string& text, std::string_view read(int) = LineInput) {
     std::string parts;
     WriteAll("f", text);
     OpenForInput(1, "f");
@@ -45,56 +25,49 @@ std::string PartsOf(const std::string& text, std::string_view read(int) = LineIn
     return parts;
 }
 
-std::string NamesHere(const std::function<std::string(const std::string&)>& shown) {
+static std::string NamesHere(const std::function<std::string(const std::string&)>& shown) {
     std::string names;
     for (const auto& name : NamesIn(".")) names += (names.empty() ? "" : " ") + shown(name);
     return names;
 }
 
 /// The permissions of a file as octal digits.
-std::string ModeOf(const std::string& path) {
+static std::string ModeOf(const std::string& path) {
     const auto mode = static_cast<unsigned>(fs::status(path).permissions());
     return std::to_string(mode / 64) + std::to_string(mode / 8 % 8) + std::to_string(mode % 8);
 }
 
-/// Does a step of the table and tells what it gives.
-std::string Done(const std::string& step, int number, const std::string& file,
-                 const std::string& text) {
-    std::string gives;
-    const std::map<std::string, std::function<void()>> steps = {
-        {"input", [&] { OpenForInput(number, file); }},
-        {"line", [&] { gives = LineInput(number); }},
-        {"field", [&] { gives = InputField(number); }},
-        {"ended", [&] { gives = EndOfFile(number) ? "yes" : "no"; }},
-        {"close", [&] { CloseFile(number); }},
-        {"free", [&] { gives = std::to_string(FreeFile()); }},
-        {"lines", [&] { gives = PartsOf(text); }},
-        {"fields", [&] { gives = PartsOf(text, InputField); }},
-        {"replace", [&] { ReplaceFile(file, text); }},
-        {"put", [&] { WriteAll(file, text); }},
-        {"get", [&] { gives = ReadAll(file); }},
-        {"names", [&] { gives = NamesHere([](auto& name) { return name; }); }},
-        {"folder", [&] { fs::create_directory(file); }},
-        {"link", [&] { fs::create_symlink(text, file); }},
-        {"target", [&] { gives = fs::read_symlink(file); }},
-        {"allow", [&] { chmod(file.c_str(), static_cast<mode_t>(std::stoi(text, nullptr, 8))); }},
-        {"modes", [&] { gives = NamesHere(ModeOf); }},
-        {"enter", [&] { fs::current_path(file); }},
-    };
-    const int error = RaisedError(steps.at(step));
-    return error == 0 ? gives : "error " + std::to_string(error);
-}
-
-TEST_F(FileTable, StepByStep) {
-    for (const auto& row : ReadTable("platform/file_table.tsv")) {
-        for (const auto& number : Split(row[1], ' ')) {
-            for (const auto& file : Split(row[2], ' ')) {
-                EXPECT_EQ(Done(row[0], std::atoi(number.c_str()), file, row[3]), row[4])
-                    << row.back() << ": " << row[0] << " " << number << " " << file;
-            }
-        }
+/// Plays the table of the files by number and of what is on the disk.
+class FileTable : public StepTest {
+protected:
+    FileTable() {
+        Know({
+            {"input", Step([](A a) { OpenForInput(a[0], a.Text); })},
+            {"line", Seen([](A a) { return std::string(LineInput(a[0])); })},
+            {"field", Seen([](A a) { return std::string(InputField(a[0])); })},
+            {"close", Step([](A a) { CloseFile(a[0]); })},
+            {"lines", Seen([](A a) { return PartsOf(a.Text); })},
+            {"fields", Seen([](A a) { return PartsOf(a.Text, InputField); })},
+            {"replace", OfFile([](auto& file, auto& text) { ReplaceFile(file, text); })},
+            {"link", OfFile([](auto& file, auto& to) { fs::create_symlink(to, file); })},
+            {"target", Seen([](A a) { return fs::read_symlink(a.Text).string(); })},
+            {"allow", OfFile([](auto& file, auto& mode) {
+                 chmod(file.c_str(), static_cast<mode_t>(std::stoi(mode, nullptr, 8)));
+             })},
+            {"modes", Seen([](A) { return NamesHere(ModeOf); })},
+        });
     }
-}
+    /// A step with a file and what stands behind its name.
+    static Word OfFile(std::function<void(const std::string&, const std::string&)> step) {
+        return Step([step](A a) {
+            auto rest = a.Text;
+            const auto file = TakeWord(rest);
+            step(file, rest);
+        });
+    }
+};
+
+TEST_F(FileTable, Table) { PlayTable("platform/file_table.tsv"); }
 
 TEST_F(FileTable, Limits) {
     // The CR is the last byte of a buffer, the LF the next one's first.
@@ -174,4 +147,4 @@ TEST_F(FileTable, WriteProtectionHolds) {
     EXPECT_EQ(ReadAll("f"), "old");
 }
 
-}  // namespace
+}  // namespace quorvane::testing

@@ -1,19 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/profile_file.h"
 
-#include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "files/work_folder.h"
 #include "platform/child_process.h"
-#include "platform/file_table.h"
-#include "platform/paths.h"
-#include "platform/raised_error.h"
+#include "support/step_test.h"
 
-using namespace quorvane;
-using namespace quorvane::testing;
-
-namespace {
+namespace quorvane::testing {
 
 TEST(Paths, AFileIsFoundWithoutRegardToCase) {
     const WorkFolder folder;
@@ -38,72 +31,47 @@ TEST(Paths, AFileIsFoundWithoutRegardToCase) {
     ChangeDirectory(before);
 }
 
-TEST(ProfileFile, ValuesAreReadByKeyAndSection) {
-    struct Row {
-        std::string Bytes, Value;
-    };
-    const Row rows[] = {
-        {"", "none"},
-        {"[s]\r\nk=v\r\n", "v"},
-        {"[s]\nk=v", "v"},
-        {"[s]\rk=v\r", "v"},
-        {"\xEF\xBB\xBF[S]\n K \t=  a b  \n", "a b"},
-        {"[ s ] ; tail\n; k=1\n#k=2\nk=3\nk=4", "3"},
-        {"k=0\n[t]\nk=1\n[s]\nx=2\n[u]\nk=3\n[s]\nk=4", "4"},
-        {"[s]\nk=", ""},
-        {"[s]\nk", "none"},
-        {"[s]\n=v\nk v\n[k=v\nk=<<<E\nx\nE\n", "<<<E"},
-        {"[s\nk=v", "none"},
-        {"s]\nk=v", "none"},
-        {"[s]\nk=\"a\"=b;c", "\"a\"=b;c"},
-        {std::string("[s]\nk=a\0b\nx=c", 14), "a"},
-        {std::string("\0\0[s]\n\0\nk=v", 11), "none"},
-        {std::string("[s]\n\0\nk=v", 9), "v"},
-        {"[s]\n" + std::string(5000000, 'x') + "\nk=v", "v"},
-        {"[s]\nk=" + std::string(17 * 1024 * 1024, 'x'), "none"},
-    };
-    const WorkFolder folder;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.Bytes.substr(0, 60));
-        WriteAll(folder / "f", row.Bytes);
-        EXPECT_EQ(GetPrivateProfileString("s", "k", "none", folder / "F"), row.Value);
+/// Plays the table of what a file gives for a key, and of what a write makes of it.
+class ProfileFile : public StepTest {
+protected:
+    ProfileFile() {
+        Know({
+            {"value", Seen([](A a) {
+                 WriteAll("f", Bytes(a.Text));
+                 return GetPrivateProfileString("s", "k", "none", "F");
+             })},
+            {"written", Seen([](A a) {
+                 WriteAll("File.Ini", Bytes(a.Text));
+                 WritePrivateProfileString("s", "k", "v", "file.ini");
+                 const auto once = ReadAll("File.Ini");
+                 WritePrivateProfileString("s", "k", "v", "file.ini");
+                 EXPECT_EQ(ReadAll("File.Ini"), once);
+                 EXPECT_EQ(GetPrivateProfileString("s", "k", "none", "file.ini"), "v");
+                 return once;
+             })},
+        });
     }
-    for (const char* name : {"missing", ".", "f/f"}) {
-        EXPECT_EQ(GetPrivateProfileString("s", "k", "none", folder / name), "none") << name;
+    /// What stands behind ":", with NUL for "@".
+    static std::string Bytes(std::string text) {
+        std::replace(text.begin(), text.end(), '@', '\0');
+        return text.substr(1);
     }
+};
+
+TEST_F(ProfileFile, Table) { PlayTable("platform/profile_file.tsv"); }
+
+TEST_F(ProfileFile, LongLinesAndWhatIsNoFile) {
+    WriteAll("f", "[s]\n" + std::string(5000000, 'x') + "\nk=v");
+    EXPECT_EQ(GetPrivateProfileString("s", "k", "none", "f"), "v");
+    WriteAll("f", "[s]\nk=" + std::string(17 * 1024 * 1024, 'x'));
+    for (const char* name : {"f", "missing", ".", "f/f"}) {
+        EXPECT_EQ(GetPrivateProfileString("s", "k", "none", name), "none") << name;
+    }
+    WritePrivateProfileString("s", "k", "a\r\n[t]", "new.ini");
+    EXPECT_EQ(ReadAll("new.ini"), "[s]\r\nk=a\r\n");
 }
 
-TEST(ProfileFile, AWriteChangesOneLine) {
-    struct Row {
-        std::string Before, After;
-    };
-    const Row rows[] = {
-        {"", "[s]\r\nk=v\r\n"},
-        {"; mine\n[t]\nk=1", "; mine\r\n[t]\r\nk=1\r\n[s]\r\nk=v\r\n"},
-        {"[S]\r\n K = 1\r\nk=2\r\n", "[S]\r\nk=v\r\nk=2\r\n"},
-        {"[s] ;tail\r\n\r\na b\r\nx = 1\r\n\r\n; end\r\n[t]\r\n",
-         "[s] ;tail\r\n\r\na b\r\nx = 1\r\nk=v\r\n\r\n; end\r\n[t]\r\n"},
-        {"[s]\n[t]\nk=1\n[s]\nx=1\n", "[s]\r\n[t]\r\nk=1\r\n[s]\r\nx=1\r\nk=v\r\n"},
-        {"[s\n\xFF\x01=\n=\n[]\n[s]\n", "[s\r\n\xFF\x01=\r\n=\r\n[]\r\n[s]\r\nk=v\r\n"},
-        {std::string("\0x\n[s]", 6), std::string("\0x\r\n[s]\r\nk=v\r\n", 14)},
-    };
-    const WorkFolder folder;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.Before);
-        WriteAll(folder / "File.Ini", row.Before);
-        for (int times = 1; times <= 2; ++times) {
-            WritePrivateProfileString("s", "k", "v", folder / "file.ini");
-            EXPECT_EQ(ReadAll(folder / "File.Ini"), row.After);
-        }
-        EXPECT_EQ(GetPrivateProfileString("s", "k", "none", folder / "file.ini"), "v");
-    }
-    EXPECT_EQ(NamesIn(folder.Path), std::set<std::string>{"File.Ini"});
-    WritePrivateProfileString("s", "k", "a\r\n[t]", folder / "new.ini");
-    EXPECT_EQ(ReadAll(folder / "new.ini"), "[s]\r\nk=a\r\n");
-}
-
-TEST(ProfileFile, AFailedWriteIsSilentAndLeavesTheOldFile) {
-    const WorkFolder folder;
+TEST_F(ProfileFile, AFailedWriteIsSilentAndLeavesTheOldFile) {
     const std::string old = "[s]\r\nk=old\r\n";
     const std::string huge(17 * 1024 * 1024, 'x');
     WriteAll(folder / "huge", huge);
@@ -128,4 +96,4 @@ TEST(ProfileFile, AFailedWriteIsSilentAndLeavesTheOldFile) {
     EXPECT_EQ(std::filesystem::file_size(folder / "huge"), huge.size());
 }
 
-}  // namespace
+}  // namespace quorvane::testing

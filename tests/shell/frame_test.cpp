@@ -6,7 +6,6 @@
 #include "shell/help.h"
 #include "shell/tour.h"
 #include "support/step_test.h"
-#include "toolbox/toolbox.h"
 
 namespace quorvane::testing {
 
@@ -14,14 +13,12 @@ namespace quorvane::testing {
 class ShellTest : public StepTest, public ::testing::WithParamInterface<const char*> {
 protected:
     ShellTest() {
-        Words some = {
+        Know({
             {"LoadToolbox", Step([](A) { LoadToolbox(); })},
             {"UnloadFrame", Step([](A) { UnloadFrame(); })},
-            {"no", Step([this](A) { screen.MessageAnswers = {Answer::No}; })},
             {"ended", Global(screen.Ended)},
             {"helped", Seen([this](A) { return Taken(screen.HelpCommands); })},
             {"HelpFile", Global(HelpFile)},
-            {"ProgramDirectory", Global(ProgramDirectory)},
             {"log", Global(frmTextResults.txt.Text)},
             {"left", Seen([](A) {
                  std::string left;
@@ -41,20 +38,13 @@ protected:
              {{},
               [](A a) { return Show(Sheet(a[0]).Surface.size()); },
               [](A a, const std::string&) { Sheet(a[0]).Surface.resize(1); }}},
-            {"toolbox", Seen([](A) -> std::string {
-                 if (!frmPictures.Form.Loaded) return "gone";
-                 return frmPictures.Form.Visible ? "shown" : "loaded";
-             })},
-            {"Columns", Global(frmPictures.Columns)},
-            {"ReloadMarker", Global(frmPictures.ReloadMarker)},
             {"tour", Seen([](A a) {
                  const auto& panel = Sheet(a[0]).pnlTour;
                  return panel.Caption + (panel.Visible ? "" : "-");
              })},
             {"pnlTour_Click", Step([](A a) { pnlTour_Click(Sheet(a[0])); })},
             {"TourStep", Global(TourStep)},
-        };
-        words.merge(some);
+        });
     }
 };
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "generator/link_door.h"
+#include "platform/paths.h"
 #include "platform/quiet_desktop.h"
 
 namespace quorvane::testing {
@@ -21,6 +22,7 @@ struct ScriptedDesktop : QuietDesktop {
     std::deque<std::string> Texts;         ///< Answers of prompts; "" when they run out
     std::vector<std::string> FileDialogs;  ///< "open" or "save", "|", filter, "|", file name
     std::deque<std::string> Paths;         ///< Chosen files; cancelled when they run out
+    bool Wanders = false;  ///< A file dialog moves to the folder of the file, as some do
     std::map<std::string, std::function<void()>, std::less<>> Forms;  ///< The user at a modal form
     std::vector<std::string> FormsShown;
     std::deque<std::int32_t> Colors;  ///< Chosen colours; cancelled when they run out
@@ -127,6 +129,7 @@ private:
     std::string TakePath(std::string asked) {
         FileDialogs.push_back(std::move(asked));
         if (Paths.empty()) throw RuntimeError(32755);
+        if (Wanders) ChangeDirectory(std::string(FolderOf(Paths.front())));
         return Take(Paths);
     }
 };

@@ -1,13 +1,17 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "diagram/preferences.h"
 #include "files/document_fixture.h"
+#include "platform/file_table.h"
 #include "platform/numbers.h"
+#include "platform/paths.h"
 #include "platform/raised_error.h"
 #include "shell/forms.h"
 #include "shell/menus.h"
 #include "support/table_file.h"
 #include "support/words.h"
+#include "toolbox/toolbox.h"
 
 namespace quorvane::testing {
 
@@ -22,27 +26,36 @@ namespace quorvane::testing {
 class StepTest : public DocumentTest {
 protected:
     StepTest() {
-        Words common = {
+        Know({
             {"NewDocument", Seen([](A) { return NewDocument(); })},
             {"EditMode", Global(EditMode)},
             {"NextBox", Global(NextBox)},
+            {"ProgramDirectory", Global(ProgramDirectory)},
             {"Modified", OfState(&DocumentState::Modified)},
             {"Closed", OfState(&DocumentState::Closed)},
+            {"Caption", OfSheet(&Worksheet::Caption)},
+            {"scrH", OfSheet(&Worksheet::scrH, &ScrollBar::Value)},
+            {"scrV", OfSheet(&Worksheet::scrV, &ScrollBar::Value)},
+            {"shpCopy", OfSheet(&Worksheet::shpCopy)},
             {"told", Seen([this](A) { return Taken(screen.Messages); })},
             {"shown", Seen([this](A) { return Taken(screen.FormsShown); })},
             {"choose", Step([this](A a) { screen.Paths.push_back(folder / a.Text); })},
             {"asked", Seen([this](A) { return Taken(screen.FileDialogs); })},
-            {"put", Step([](A a) {
-                 auto bytes = a.Text;
-                 const auto name = TakeWord(bytes);
-                 WriteAll(name, bytes);
+            {"answer", Step([this](A a) {
+                 const std::map<std::string, Answer> answers = {
+                     {"yes", Answer::Yes}, {"no", Answer::No}, {"cancel", Answer::Cancel}};
+                 screen.MessageAnswers = {answers.at(a.Text)};
              })},
-            {"get", Seen([](A a) { return ReadAll(a.Text); })},
-            {"names", Seen([](A) { return NamesIn("."); })},
+            {"toolbox", Seen([](A) -> std::string {
+                 if (!frmPictures.Form.Loaded) return "gone";
+                 return frmPictures.Form.Visible ? "shown" : "loaded";
+             })},
+            {"Columns", Global(frmPictures.Columns)},
+            {"ReloadMarker", Global(frmPictures.ReloadMarker)},
             {"checked", Seen([](A a) { return MenuOf(a).Checked; })},
             {"caption", Seen([](A a) { return MenuOf(a).Caption; })},
-        };
-        words.merge(common);
+        });
+        Know(FileWords());
         for (const auto& row : documentMenu) {
             words[std::string(row.Control) + "_Click"] =
                 Step([&row](A a) { RunMenuCommand(row, Sheet(a[0])); });
@@ -78,11 +91,50 @@ protected:
         return text;
     }
 
-    Words words;
+    /// Adds words, in place of those of the same name.
+    void Know(const Words& some) {
+        for (const auto& [name, word] : some) words[name] = word;
+    }
+
+    /// Cuts off what stands before the first blank.
+    static std::string TakeWord(std::string& text) {
+        const auto word = text.substr(0, text.find(' '));
+        text.erase(0, word.size() + 1);
+        return word;
+    }
+
+    /// "$" at the beginning of a path is the folder in which the program begins.
+    std::string InFolder(std::string path) const {
+        return path.starts_with('$') ? path.replace(0, 1, folder.Path.string()) : path;
+    }
+    std::string Here(std::string path) const {
+        const auto root = folder.Path.string();
+        return path.starts_with(root) ? path.replace(0, root.size(), "$") : path;
+    }
 
 private:
+    Words FileWords() {
+        return {
+            {"put", Step([](A a) {
+                 auto bytes = a.Text;
+                 const auto name = TakeWord(bytes);
+                 WriteAll(name, bytes);
+             })},
+            {"get", Seen([](A a) { return ReadAll(a.Text); })},
+            {"names", Seen([](A) { return NamesIn("."); })},
+            {"folder", Step([](A a) { std::filesystem::create_directories(a.Text); })},
+            {"enter", Step([this](A a) { ChangeDirectory(InFolder(a.Text)); })},
+            {"where", Seen([this](A) { return Here(CurrentDirectory()); })},
+            {"open", Step([](A a) { OpenForInput(a[0], a.Text); })},
+            {"ended", Seen([](A a) { return EndOfFile(a[0]); })},
+            {"FreeFile", Seen([](A) { return FreeFile(); })},
+        };
+    }
+
     void AddForm(const Form& form) {
         words[form.Name] = Global(form.State->Visible);
+        words[form.Name + ".Loaded"] = Global(form.State->Loaded);
+        words[form.Name + ".Caption"] = Global(form.State->Caption);
         for (const auto& row : form.Controls) {
             if (row.Event) {
                 words[form.Name + "_" + row.Name] = Step([&row](A) { row.Event(); });
@@ -96,6 +148,14 @@ private:
                     }
                     if constexpr (requires { control->Text; }) word = Global(control->Text);
                     if constexpr (requires { control->Value; }) word = Global(control->Value);
+                    if constexpr (requires { control->List; }) {
+                        words[form.Name + "." + row.Name + ".List"] =
+                            Seen([control](A) { return control->List; });
+                    }
+                    if constexpr (requires { control->ListIndex; }) {
+                        words[form.Name + "." + row.Name + ".ListIndex"] =
+                            Global(control->ListIndex);
+                    }
                 },
                 row.Record);
         }
@@ -105,13 +165,6 @@ private:
     static const MenuItem& MenuOf(A a) {
         if (a[0] == 0) return *MenuRecord(frmMDI, a.Text, -1);
         return *MenuRecord(Sheet(a[0]), a.Text, -1);
-    }
-
-    /// Cuts off what stands before the first blank.
-    static std::string TakeWord(std::string& text) {
-        const auto word = text.substr(0, text.find(' '));
-        text.erase(0, word.size() + 1);
-        return word;
     }
 
     void CarryOut(const std::vector<std::string>& cells, const std::string& place) {
@@ -163,6 +216,7 @@ private:
         EXPECT_EQ(error == 0 ? seen : "error " + std::to_string(error), right);
     }
 
+    Words words;
     std::string awaited_;  ///< A form that has yet to be shown
 };
 

@@ -30,9 +30,8 @@ static std::string Show(const ControlArray<IconButton>& icons) {
 class ToolboxTest : public StepTest, public ::testing::WithParamInterface<const char*> {
 protected:
     ToolboxTest() {
-        for (auto&& some : {ToolboxWords(), DialogWords()}) {
-            for (const auto& [name, word] : some) words[name] = word;
-        }
+        Know(ToolboxWords());
+        Know(DialogWords());
     }
     void SetUp() override {
         StepTest::SetUp();
@@ -56,12 +55,6 @@ private:
             {"resize", Step([](A a) { frmPictures_Resize(a.X(0), a.X(1)); })},
             {"hover", Step([](A) { main_MouseMove(Sheet(), 0, 0, 0, 0); })},
             {"activate", Step([](A a) { main_Activate(Sheet(a[0])); })},
-            {"open", Step([](A a) { OpenForInput(a[0], a.Text); })},
-            {"ended", Seen([](A a) { return EndOfFile(a[0]); })},
-            {"toolbox", Seen([](A) -> std::string {
-                 if (!frmPictures.Form.Loaded) return "gone";
-                 return frmPictures.Form.Visible ? "shown" : "loaded";
-             })},
             {"tools", Seen([](A) { return Show(frmPictures.cmd); })},
             {"lasttool", Seen([](A) {
                  const auto shown = Show(frmPictures.cmd);
@@ -69,8 +62,6 @@ private:
              })},
             {"buttons", Seen([](A) { return frmPictures.cmd.Size() - 1; })},
             {"count", Seen([](A) { return frmPictures.Keys.UpperBound(); })},
-            {"Columns", Global(frmPictures.Columns)},
-            {"ReloadMarker", Global(frmPictures.ReloadMarker)},
             {"Width", Global(frmPictures.Width)},
             {"Height", Global(frmPictures.Height)},
             {"ButtonHeight", Seen([](A a) { return frmPictures.cmd[a[0]].Place.Height; })},
@@ -105,8 +96,6 @@ private:
             {"text", Global(dialog.lbltoolbox.Caption)},
             {"panel", Seen([&dialog](A) { return Show(dialog.cmdButton); })},
             {"Count", Global(dialog.Count)},
-            {"Loaded", Global(dialog.Form.Loaded)},
-            {"FreeFile", Seen([](A) { return FreeFile(); })},
         };
     }
 };

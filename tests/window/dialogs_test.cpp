@@ -4,19 +4,24 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QRadioButton>
 #include <QRegularExpression>
 #include <QScreen>
 #include <QTest>
+#include <fstream>
 #include <map>
 #include <set>
 
 #include "catalogue/box_commands.h"
+#include "catalogue/option_lists.h"
 #include "diagram/box_table.h"
+#include "diagram/preferences.h"
 #include "diagram/worksheet.h"
-#include "qt/desktop/dispatch.h"
-#include "qt/desktop/screen_units.h"
+#include "matlab_link/mfile_index.h"
+#include "qt/dispatch.h"
+#include "qt/screen_units.h"
 #include "shell/about.h"
 #include "support/table_file.h"
 #include "toolbox/toolbox_config.h"
@@ -47,6 +52,19 @@ void TypeKeys(QDialog& dialog, QWidget* control, const QString& keys) {
     }
 }
 
+/// Finds a function by the beginning of its name, and takes it by Enter, which does nothing before.
+void PickByKeys(QDialog& browser) {
+    auto* list = browser.findChild<QListView*>("lstFunc");
+    Play("cmbCategory=Signal")(browser);
+    QCOMPARE(list->model()->rowCount(), 2);
+    QTest::keyClick(list, Qt::Key_Return);
+    QVERIFY(browser.isVisible());
+    QTest::keyClicks(list, "ga");
+    QTRY_COMPARE(browser.findChild<QLabel*>("lblHelp")->text(), "Help for all\nof it\n");
+    QTest::keyClick(list, Qt::Key_Return);
+    QVERIFY(!browser.isVisible());
+}
+
 }  // namespace
 
 /// The commands that make boxes, each chosen from its menu and answered by clicks.
@@ -55,60 +73,30 @@ class DialogsTest : public QObject {
 
 private slots:
     void init() {
+        program.reset();
         program = std::make_unique<Program>();
         program->Choose("mnuFileNew");
     }
     void cleanup() { program.reset(); }
 
-    /// The tables by which the records of the dialogs are tested play their widgets, too.
-    void each_dialog_makes_its_box_data() {
-        for (const char* column : {"dialog", "steps", "type", "text", "told"}) {
-            QTest::addColumn<QString>(column);
-        }
-        std::set<std::string_view> played = {"", "input box", "frmPlot"};
-        const auto add = [&](const std::vector<std::string>& row, const std::string& steps,
-                             std::size_t type, const std::string& told) {
-            auto& added = QTest::newRow(row.back().c_str());
-            for (const auto& cell : {row[0], steps, row[type], row[type + 1], told}) {
-                added << QString::fromStdString(cell);
-            }
-        };
-        const auto options = ReadTable("catalogue/options.tsv");
-        const auto dialogs = ReadTable("catalogue/dialogs.tsv");
-        for (const auto& row : options) {
-            played.insert(row[0]);
-            add(row, (row[4] == "7.5" ? "txtConst=7.5|" : "") + row[1], 3, "");
-        }
-        for (const auto& row : dialogs) {
-            played.insert(row[0]);
-            // The others look into a record between their steps.
-            if (row[1].find('?') == std::string::npos) add(row, row[1], 2, row[6]);
-        }
-        for (const auto& command : boxCommands) {
-            QVERIFY(!MakesBox(command) || played.contains(command.Dialog));
-        }
-    }
-
+    /// Each dialog of the tables by which the records are tested, and each list, once by its
+    /// widgets.
     void each_dialog_makes_its_box() {
-        QFETCH(QString, dialog);
-        QFETCH(QString, steps);
-        QFETCH(QString, told);
-        // The tables begin at box 7, behind these.
-        for (const char* type : {"a Subroutine", "End Subroutine", "Sin", "Insert Subroutine a",
-                                 " Subroutine", "a subroutine"}) {
-            Boxes[NextBox++].BoxType = type;
+        std::set<std::string> played = {"", "input box", "frmPlot"};
+        for (const auto& row : ReadTable("catalogue/dialogs.tsv")) {
+            // Some look into a record between their steps.
+            const bool apt = !row[1].empty() && row[1].find('?') == std::string::npos;
+            if (apt && row[6].empty() && played.insert(row[0]).second) MakeBox(row);
         }
-        program->Answers = {Play(steps + (dialog == "frmForLoop" ? "|cmd" : "|cmdOK"))};
-        const auto messages = told.split('|', Qt::SkipEmptyParts).size();
-        for (int i = 0; i < messages; ++i) program->Answers.push_back(Press(QMessageBox::Ok));
+        for (const auto& list : optionLists) {
+            const auto& last = list.Options[list.Options.size() - 2];
+            const std::string type(last.BoxType), text = last.BoxText ? last.BoxText : "";
+            if (!played.insert(std::string(list.Dialog)).second) continue;
+            MakeBox({std::string(list.Dialog), OptionName(list, last), type, text});
+        }
         for (const auto& command : boxCommands) {
-            if (ToScreen(command.Dialog) != dialog) continue;
-            program->Place(ToScreen(command.Control), {120, 90});
+            QVERIFY(!MakesBox(command) || played.contains(std::string(command.Dialog)));
         }
-        QVERIFY(program->Answers.empty());
-        QTEST(ToScreen(Boxes[7].BoxType), "type");
-        QTEST(ToScreen(Boxes[7].BoxText), "text");
-        QVERIFY(program->Box(7));
     }
 
     void every_command_without_a_dialog_makes_its_box() {
@@ -256,24 +244,20 @@ private slots:
     }
 
     void buttons_of_messages_stand_in_their_order() {
-        struct Row {
-            QMessageBox::StandardButton Button;
-            Answer Given;
-        };
-        const Row rows[] = {{QMessageBox::Abort, Answer::Abort},
-                            {QMessageBox::Retry, Answer::Retry},
-                            {QMessageBox::Ignore, Answer::Ignore}};
+        const std::pair<QMessageBox::StandardButton, Answer> rows[] = {
+            {QMessageBox::Abort, Answer::Abort},
+            {QMessageBox::Retry, Answer::Retry},
+            {QMessageBox::Ignore, Answer::Ignore}};
         for (int tabs = 0; tabs < 3; ++tabs) {
             program->Answers = {[&](QDialog& dialog) {
                 const auto& box = static_cast<QMessageBox&>(dialog);
-                for (int i = 1; i < 3; ++i) {
-                    QVERIFY(box.button(rows[i - 1].Button)->x() < box.button(rows[i].Button)->x());
-                }
+                const auto left = [&](int i) { return box.button(rows[i].first)->x(); };
+                QVERIFY(left(0) < left(1) && left(1) < left(2));
                 for (int i = 0; i < tabs; ++i) QTest::keyClick(dialog.focusWidget(), Qt::Key_Tab);
                 QTest::keyClick(dialog.focusWidget(), Qt::Key_Return);
             }};
             QCOMPARE(QtDesktop().MsgBox({.Text = "?", .Choice = Buttons::AbortRetryIgnore}),
-                     rows[tabs].Given);
+                     rows[tabs].second);
         }
     }
 
@@ -330,6 +314,21 @@ private slots:
         QCOMPARE(Boxes[2].BoxText, "x>1 & y<2");
     }
 
+    void a_function_is_scanned_for_and_picked() {
+        ProgramDirectory = std::filesystem::current_path().string();
+        DriveRoots = {{'C', ProgramDirectory + "/"}};
+        std::filesystem::create_directory("signal");
+        for (const char* name : {"signal/Beta.m", "signal/gamma.m", "signal/last.m"}) {
+            std::ofstream(name) << "% Help for,all\n% of it\n\n";
+        }
+        const auto nothing = [](QDialog&) {};
+        program->Answers = {Play("cmdShowFunc|cmdShowFunc|cmdOK"), nothing, Cancel(), PickByKeys};
+        program->Place("mnuSpecMatlab", {90, 90});
+        QCOMPARE(program->Asked.mid(1, 2),
+                 QStringList({"frmScanning: Quorvane", "frmMatlab: Select a Matlab Command"}));
+        QCOMPARE(Boxes[1].BoxText, "Output=gamma");
+    }
+
     void a_list_can_not_be_cancelled() {
         program->Answers = {[](QDialog& dialog) {
             QTest::keyClick(&dialog, Qt::Key_Escape);
@@ -342,6 +341,23 @@ private slots:
     }
 
 private:
+    /// Plays dialog and steps of a row, and compares type and text of box 7 with it.
+    void MakeBox(const std::vector<std::string>& row) {
+        init();
+        // The tables begin at box 7, behind these.
+        for (const char* type : {"a Subroutine", "End Subroutine", "Sin", "Insert Subroutine a",
+                                 " Subroutine", "a subroutine"}) {
+            Boxes[NextBox++].BoxType = type;
+        }
+        program->Answers = {Play(ToScreen(row[1] + (row[0] == "frmForLoop" ? "|cmd" : "|cmdOK")))};
+        for (const auto& command : boxCommands) {
+            if (command.Dialog == row[0]) program->Place(ToScreen(command.Control), {120, 90});
+        }
+        QVERIFY(program->Answers.empty() && program->Box(7));
+        QCOMPARE(Boxes[7].BoxText, row[3]);
+        if (!row[2].empty()) QCOMPARE(Boxes[7].BoxType, row[2]);
+    }
+
     std::unique_ptr<Program> program;
 };
 
