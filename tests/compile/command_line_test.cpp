@@ -51,21 +51,23 @@ std::string FirstWords(const std::string& text) {
 TEST_F(CommandLine, RunsEndInTheirWays) {
     const auto names = NamesIn(folder.Path);
     for (const auto& row : ReadTable("compile/command_line.tsv")) {
-        SCOPED_TRACE(row.back() + " " + row[0]);
-        WriteAll(folder / "out.m", "old");
-        auto words = Split(row[0], '|');
-        std::string input = "/dev/null";
-        if (words.back() == "none") words.pop_back();
-        if (!words.empty() && words.back().starts_with("<")) {
-            input = words.back().substr(1);
-            words.pop_back();
+        for (const auto& arguments : Split(row[0], ';')) {
+            SCOPED_TRACE(row.back() + " " + arguments);
+            WriteAll(folder / "out.m", "old");
+            auto words = Split(arguments.substr(arguments.starts_with(' ') ? 1 : 0), '|');
+            std::string input = "/dev/null";
+            if (words.back() == "none") words.pop_back();
+            if (!words.empty() && words.back().starts_with("<")) {
+                input = words.back().substr(1);
+                words.pop_back();
+            }
+            const auto run = RunCompile(folder.Path, words, "", input);
+            EXPECT_EQ(std::to_string(run.Exit), row[1]);
+            EXPECT_EQ(run.Output, row[2]);
+            EXPECT_EQ(FirstWords(run.Errors), row[3]) << run.Errors;
+            EXPECT_EQ(ReadAll(folder / "out.m"), row[4]);
+            EXPECT_EQ(NamesIn(folder.Path), names);
         }
-        const auto run = RunCompile(folder.Path, words, "", input);
-        EXPECT_EQ(std::to_string(run.Exit), row[1]);
-        EXPECT_EQ(run.Output, row[2]);
-        EXPECT_EQ(FirstWords(run.Errors), row[3]) << run.Errors;
-        EXPECT_EQ(ReadAll(folder / "out.m"), row[4]);
-        EXPECT_EQ(NamesIn(folder.Path), names);
     }
     EXPECT_EQ(RunCompile(folder.Path, {"good.qvm"}, "/dev/full").Exit, 2);
     EXPECT_EQ(RunCompile(folder.Path, {"--check", "text"}).Errors,

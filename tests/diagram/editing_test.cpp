@@ -61,7 +61,6 @@ private:
             {"BoxLineColor", OfBox(&Box::BoxLineColor)},
             {"BoxLeft", OfBox(&Box::BoxLeft)},
             {"BoxTop", OfBox(&Box::BoxTop)},
-            {"record", Seen([](A a) { return Boxes[a[0]]; })},
             {"types", Seen([](A) {
                  std::vector<std::string> types;
                  for (int i = 1; i < NextBox; ++i) types.push_back(Boxes[i].BoxType);

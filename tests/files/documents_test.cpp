@@ -10,26 +10,6 @@ namespace quorvane::testing {
 
 namespace {
 
-std::string Replaced(std::string text, const std::string& what, const std::string& by) {
-    for (std::size_t at; (at = text.find(what)) < text.size();) text.replace(at, what.size(), by);
-    return text;
-}
-
-/// A box record; "free" for one that is not in use, wherever it was.
-std::string Record(int number) {
-    const Box& box = Boxes[number];
-    auto free = box;
-    FreeRecord(free);
-    if (box == free) return "free";
-    std::ostringstream record;
-    record << box.BoxType << "~" << box.BoxText << " in " << box.BoxDocument << " at "
-           << box.BoxLeft << "," << box.BoxTop << " from";
-    for (const auto entry : box.BoxIn) record << " " << entry;
-    record << " to";
-    for (int j = 1; j <= 5; ++j) record << " " << box.BoxOut[j] << ":" << box.BoxLineColor[j];
-    return record.str();
-}
-
 /// A document and its window.
 std::string Shown(int number) {
     if (!Documents[number]) return "gone";
@@ -91,7 +71,6 @@ protected:
             {"select", Step([](A a) { SelectedBoxes.Append(ToInt16(a[0])); })},
             {"selected", Seen([](A) { return SelectedBoxes.UpperBound(); })},
             {"busy", Step([](A) { SetPointerAll(PointerHourglass); })},
-            {"record", Seen([](A a) { return Record(a[0]); })},
             {"show",
              Seen([this](A a) { return Replaced(Shown(a[0]), folder.Path.string(), "$"); })},
             {"loaded", Seen([this](A a) { return Loaded(Whole(a.Text.substr(1))); })},

@@ -78,7 +78,11 @@ protected:
             SCOPED_TRACE(expected.back() + " " + expected[0]);
             Restart();
             for (; row != rows.end() && row->front().empty(); ++row) {
-                Draw({{(*row)[1], Crlf((*row)[2]), Numbers((*row)[3]), Numbers((*row)[4])}});
+                for (std::size_t i = 1; i + 1 < row->size() && !(*row)[i].empty(); ++i) {
+                    auto box = Split((*row)[i], '~');
+                    box.resize(4);
+                    Draw({{box[0], Crlf(box[1]), Numbers(box[2]), Numbers(box[3])}});
+                }
             }
             examine(expected);
         }

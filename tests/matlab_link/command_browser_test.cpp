@@ -21,7 +21,7 @@ protected:
     BrowserTest() {
         Know({
             {"make", Step([this](A a) { Make(a.Text); })},
-            {"index", Step([this](A a) { WriteAll(MFileIndex, Filled(a.Text)); })},
+            {"index", Step([this](A a) { WriteAll(MFileIndex, Replaced(a.Text, "@", drive)); })},
             {"scan", Seen([this](A) { return Scan(); })},
             {"drives", Global(frmPrefs.txtDrives.Text)},
             {"load", Step([](A) { frmMatlab_Load(); })},
@@ -84,18 +84,8 @@ protected:
     WatchingDesktop watching;
 
 private:
-    static std::string Replaced(std::string text, const std::string& what, const char* by) {
-        for (std::size_t at; (at = text.find(what)) < text.size();)
-            text.replace(at, what.size(), by);
-        return text;
-    }
     std::string Shortened(const std::string& text) const {
         return Replaced(Replaced(text, drive, "@"), "\r\n", "|");
-    }
-    std::string Filled(const std::string& text) const {
-        std::string filled;
-        for (const char c : text) filled += c == '@' ? drive : std::string(1, c);
-        return filled;
     }
     std::vector<std::string>& Lists(std::vector<std::string> list) {
         for (auto& text : list) text = Shortened(text);

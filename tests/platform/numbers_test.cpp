@@ -1,17 +1,10 @@
 // SPDX-License-Identifier: MIT
-#include "platform/numbers.h"
-
-#include <gtest/gtest.h>
-
 #include <cmath>
 #include <limits>
-#include <sstream>
 
-#include "platform/raised_error.h"
-#include "support/table_file.h"
+#include "support/step_test.h"
 
-using namespace quorvane;
-using namespace quorvane::testing;
+namespace quorvane::testing {
 
 namespace {
 
@@ -24,18 +17,29 @@ std::string Given(Convert&& convert) {
     return error == 0 ? given.str() : "error " + std::to_string(error);
 }
 
-TEST(Numbers, TextBecomesANumber) {
-    for (const auto& row : ReadTable("platform/numbers.tsv")) {
-        auto text = row[0];
-        SCOPED_TRACE(row.back() + " " + text);
-        if (const auto at = text.find('@'); at < text.size()) text.replace(at, 1, 400, '0');
-        EXPECT_EQ(Given([&] { return TextToNumber(text); }), row[1]);
-        EXPECT_EQ(Given([&] { return TextToInt16(text); }), row[2]);
-        EXPECT_EQ(Given([&] { return TextToInt32(text); }), row[3]);
-        EXPECT_EQ(Given([&] { return ToInt16(TextToNumber(text)); }), row[2]);
-        EXPECT_EQ(Given([&] { return ToInt32(TextToNumber(text)); }), row[3]);
-        EXPECT_EQ(IsNumeric(text), row[1] != "error 13");
+/// The text as a number, as one of 16 and as one of 32 bits.
+std::string InAllKinds(std::string text) {
+    text.erase(0, 1);
+    if (const auto at = text.find('@'); at < text.size()) text.replace(at, 1, 400, '0');
+    const auto number = Given([&] { return TextToNumber(text); });
+    const auto narrow = Given([&] { return TextToInt16(text); });
+    const auto wide = Given([&] { return TextToInt32(text); });
+    EXPECT_EQ(Given([&] { return ToInt16(TextToNumber(text)); }), narrow);
+    EXPECT_EQ(Given([&] { return ToInt32(TextToNumber(text)); }), wide);
+    EXPECT_EQ(IsNumeric(text), number != "error 13");
+    return number + " " + narrow + " " + wide;
+}
+
+}  // namespace
+
+struct NumbersTest : StepTest {
+    NumbersTest() {
+        Know({{"number", Seen([](A a) { return InAllKinds(a.Text); })}});
     }
+};
+
+TEST_F(NumbersTest, TextBecomesANumber) {
+    PlayTable("platform/numbers.tsv");
     EXPECT_FALSE(IsNumeric(std::string("1\0", 2)));
     for (const char* beginning : {"-", "+", ".", "-.", " 1e", "-.5e+"}) {
         EXPECT_TRUE(BeginsNumber(beginning) && !IsNumeric(beginning)) << beginning;
@@ -50,11 +54,11 @@ TEST(Numbers, TextBecomesANumber) {
     }
 }
 
-TEST(Numbers, BecomeTextWithoutABlank) {
+TEST_F(NumbersTest, BecomeTextWithoutABlank) {
     EXPECT_EQ(NumberText(0) + NumberText(-5) + NumberText(350), "0-5350");
     EXPECT_EQ(NumberText(std::numeric_limits<std::int64_t>::min()), "-9223372036854775808");
     EXPECT_EQ(LowerCase("ABC xyz \xC3\x84 [@Z"), "abc xyz \xC3\x84 [@z");
     EXPECT_EQ(UpperCase("abc XYZ \xC3\xA4 {`z"), "ABC XYZ \xC3\xA4 {`Z");
 }
 
-}  // namespace
+}  // namespace quorvane::testing

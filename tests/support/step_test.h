@@ -31,6 +31,7 @@ protected:
             {"EditMode", Global(EditMode)},
             {"NextBox", Global(NextBox)},
             {"ProgramDirectory", Global(ProgramDirectory)},
+            {"record", Seen([](A a) { return Boxes[a[0]]; })},
             {"Modified", OfState(&DocumentState::Modified)},
             {"Closed", OfState(&DocumentState::Closed)},
             {"Caption", OfSheet(&Worksheet::Caption)},

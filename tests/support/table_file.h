@@ -23,6 +23,14 @@ inline std::vector<std::string> Split(const std::string& line, char separator) {
     return parts;
 }
 
+/// The text with `what` as `by` at each place.
+inline std::string Replaced(std::string text, const std::string& what, const std::string& by) {
+    for (std::size_t at = 0; (at = text.find(what, at)) < text.size(); at += by.size()) {
+        text.replace(at, what.size(), by);
+    }
+    return text;
+}
+
 /// A cell as it is meant: \r, \n, \t, \s (a blank) and \\ stand for one character each.
 inline std::string Unescaped(const std::string& cell) {
     std::string text;

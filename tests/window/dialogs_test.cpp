@@ -1,15 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <QApplication>
-#include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListView>
-#include <QMessageBox>
-#include <QRadioButton>
-#include <QRegularExpression>
-#include <QScreen>
-#include <QTest>
 #include <fstream>
 #include <map>
 #include <set>
@@ -20,8 +9,8 @@
 #include "diagram/preferences.h"
 #include "diagram/worksheet.h"
 #include "matlab_link/mfile_index.h"
-#include "qt/dispatch.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
 #include "shell/about.h"
 #include "support/table_file.h"
 #include "toolbox/toolbox_config.h"
@@ -139,58 +128,37 @@ private slots:
                  "box1= [1  -2.5x      ; \u00e93         ]; \r\n");
     }
 
-    void what_is_typed_stands_as_it_was_typed_data() {
-        for (const char* column : {"command", "field", "keys", "text"}) {
-            QTest::addColumn<QString>(column);
-        }
-        const auto add = [](const char* command, const char* field, const QString& keys,
-                            const QString& text) {
-            QTest::addRow("%s %s", field, qPrintable(keys.right(9)))
-                << QString(command) << QString(field) << keys << text;
-        };
-        add("mnuMatMakeVec", "txtMin", "5", "5");
-        add("mnuInputPause", "lblSecs", "#3", "3");
-        add("mnuInputPause", "lblSecs", "1e2", "1e2");
-        add("mnuInputPause", "lblSecs", "-5", "0");
-        for (const char* number : {"-5", ".5", "1e5", "-.5e+2", "2."}) {
-            add("mnuOperatorsFunc", "txtRow", number, number);
-            add("mnuConst", "txtConst", number, number);
-        }
-        add("mnuConst", "txtConst", "-x", "");
-        add("mnuConst", "txtConst", "-|", "");
-        add("mnuConst", "txtConst", "1e!", "");
-        add("mnuOptionsPrefs", "txtLineWidth", "3e0", "3e0");
-        add("mnuOptionsPrefs", "txtLineWidth", ".5", "1");
-        add("mnuSpecSubInsert", "available_subs", "ab", "ab");
-        add("mnuSpecSubInsert", "available_subs", "cd<ab", "abcd");
-        add("mnuSpecComment", "txtComment", QString(100, 'a') + "<xy", "xy" + QString(98, 'a'));
-    }
-
     /// Typed into a dialog that has just opened, key by key and pasted whole.
     void what_is_typed_stands_as_it_was_typed() {
-        QFETCH(QString, command);
-        QFETCH(QString, field);
-        QFETCH(QString, keys);
-        QFETCH(QString, text);
-        Boxes[NextBox++].BoxType = "abc Subroutine";
-        program->Answers = {[&](QDialog& dialog) {
-            Activate(dialog);
-            auto* control = dialog.findChild<QWidget*>(field);
-            if (dialog.focusWidget() != control) control->setFocus(Qt::TabFocusReason);
-            TypeKeys(dialog, control, keys);
-            auto* line = qobject_cast<QLineEdit*>(control);
-            QCOMPARE(line ? line->text() : static_cast<QComboBox*>(control)->currentText(), text);
-            if (line && keys.size() < 9) {
-                QApplication::clipboard()->setText(keys.remove(QRegularExpression("[|<#!]")));
-                line->setFocus();
-                line->selectAll();
-                line->paste();
-                line->clearFocus();
-                QCOMPARE(line->text(), text);
-            }
-            dialog.done(QDialog::Accepted);
-        }};
-        program->Choose(command);
+        struct Row {
+            const char *Command, *Field;
+            QString Keys, Text;
+        };
+        std::vector<Row> rows = {
+            {"mnuMatMakeVec", "txtMin", "5", "5"},
+            {"mnuInputPause", "lblSecs", "#3", "3"},
+            {"mnuInputPause", "lblSecs", "1e2", "1e2"},
+            {"mnuInputPause", "lblSecs", "-5", "0"},
+            {"mnuConst", "txtConst", "-x", ""},
+            {"mnuConst", "txtConst", "-|", ""},
+            {"mnuConst", "txtConst", "1e!", ""},
+            {"mnuOptionsPrefs", "txtLineWidth", "3e0", "3e0"},
+            {"mnuOptionsPrefs", "txtLineWidth", ".5", "1"},
+            {"mnuSpecSubInsert", "available_subs", "ab", "ab"},
+            {"mnuSpecSubInsert", "available_subs", "cd<ab", "abcd"},
+            {"mnuSpecComment", "txtComment", QString(100, 'a') + "<xy", "xy" + QString(98, 'a')}};
+        for (const char* number : {"-5", ".5", "1e5", "-.5e+2", "2."}) {
+            rows.push_back({"mnuOperatorsFunc", "txtRow", number, number});
+            rows.push_back({"mnuConst", "txtConst", number, number});
+        }
+        for (const auto& row : rows) {
+            init();
+            Boxes[NextBox++].BoxType = "abc Subroutine";
+            program->Answers = {
+                [&](QDialog& dialog) { TypeInto(dialog, row.Field, row.Keys, row.Text); }};
+            program->Choose(row.Command);
+            QVERIFY2(program->Answers.empty(), qPrintable(row.Field + (" " + row.Keys)));
+        }
     }
 
     void the_keyboard_reaches_each_control() {
@@ -341,6 +309,25 @@ private slots:
     }
 
 private:
+    /// Types keys into a field, and pastes them where it is a line; the text must then stand there.
+    static void TypeInto(QDialog& dialog, const char* field, QString keys, const QString& text) {
+        Activate(dialog);
+        auto* control = dialog.findChild<QWidget*>(field);
+        if (dialog.focusWidget() != control) control->setFocus(Qt::TabFocusReason);
+        TypeKeys(dialog, control, keys);
+        auto* line = qobject_cast<QLineEdit*>(control);
+        QCOMPARE(line ? line->text() : static_cast<QComboBox*>(control)->currentText(), text);
+        if (line && keys.size() < 9) {
+            QApplication::clipboard()->setText(keys.remove(QRegularExpression("[|<#!]")));
+            line->setFocus();
+            line->selectAll();
+            line->paste();
+            line->clearFocus();
+            QCOMPARE(line->text(), text);
+        }
+        dialog.done(QDialog::Accepted);
+    }
+
     /// Plays dialog and steps of a row, and compares type and text of box 7 with it.
     void MakeBox(const std::vector<std::string>& row) {
         init();

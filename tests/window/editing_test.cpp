@@ -1,16 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <QAbstractButton>
-#include <QApplication>
-#include <QColorDialog>
-#include <QComboBox>
-#include <QFileDialog>
-#include <QInputDialog>
-#include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMessageBox>
-#include <QScrollBar>
-#include <QTest>
 #include <random>
 
 #include "catalogue/box_commands.h"

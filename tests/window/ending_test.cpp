@@ -1,9 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <QApplication>
-#include <QMessageBox>
-#include <QProcess>
-#include <QTest>
-#include <QTimer>
 #include <new>
 #include <stdexcept>
 

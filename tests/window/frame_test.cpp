@@ -1,18 +1,7 @@
 // SPDX-License-Identifier: MIT
-#include <QAbstractSlider>
-#include <QAction>
-#include <QApplication>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QTest>
-#include <QTimer>
-
 #include "diagram/box_table.h"
 #include "diagram/worksheet.h"
-#include "qt/screen_units.h"
+#include "qt/desktop/screen_units.h"
 #include "shell/menus.h"
 #include "window/window_fixture.h"
 

@@ -1,14 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <QFileDialog>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMdiSubWindow>
-#include <QTest>
-#include <QTextBrowser>
-#include <QToolButton>
-#include <QTreeWidget>
-
 #include "qt/desktop/dispatch.h"
 #include "window/window_fixture.h"
 
@@ -195,9 +185,8 @@ private slots:
         program->Choose("mnuOptionsCurrentToolbox");
     }
 
-    void the_help_keeps_its_pages_while_it_tells_of_itself() {
-        QFile::copy(QString(QUORVANE_SOURCE_DIR) + "/resources/help/QUORVANE.HLP",
-                    program->File("QUORVANE.HLP"));
+    void the_help_keeps_its_pages_and_shows_what_a_search_finds() {
+        std::filesystem::copy(QUORVANE_SOURCE_DIR "/resources/help/QUORVANE.HLP", "QUORVANE.HLP");
         WriteAll("quorvane.ini", "[Prefrences]\r\n");
         program->Start();
         program->Choose("mnuHelpHowTo");
@@ -213,21 +202,13 @@ private slots:
         QTest::keyClicks(field, "caps lock");
         QTest::keyClick(field, Qt::Key_Return);
         QVERIFY(text().startsWith("Quorvane"));
-    }
-
-    void a_search_in_the_help_shows_what_it_finds() {
-        std::filesystem::copy(QUORVANE_SOURCE_DIR "/resources/help/QUORVANE.HLP", "QUORVANE.HLP");
-        WriteAll("quorvane.ini", "[Prefrences]\r\n");
-        program->Start();
-        program->Choose("mnuHelpSearch");
-        auto* text = program->Frame().findChild<QTextBrowser*>("helpText");
-        auto* search = program->Frame().findChild<QLineEdit*>("helpSearch");
+        auto* view = help->findChild<QTextBrowser*>("helpText");
         for (const char* word : {"Shift+Enter", "surprises"}) {
-            search->setText(word);
-            QTest::keyClick(search, Qt::Key_Return);
+            field->setText(word);
+            QTest::keyClick(field, Qt::Key_Return);
             QTest::qWait(0);
-            QCOMPARE(text->textCursor().selectedText(), word);
-            QVERIFY(text->viewport()->rect().contains(text->cursorRect()));
+            QCOMPARE(view->textCursor().selectedText(), word);
+            QVERIFY(view->viewport()->rect().contains(view->cursorRect()));
         }
     }
 

@@ -1,25 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "window/window_fixture.h"
 
-#include <QAbstractButton>
-#include <QAction>
-#include <QApplication>
-#include <QComboBox>
-#include <QDrag>
-#include <QDropEvent>
-#include <QFileDialog>
-#include <QInputDialog>
-#include <QLineEdit>
-#include <QMdiArea>
-#include <QMdiSubWindow>
-#include <QMenu>
-#include <QMenuBar>
-#include <QMessageBox>
-#include <QScreen>
-#include <QSettings>
-#include <QTest>
-#include <QTimer>
-
 #include "qt/desktop/dispatch.h"
 #include "qt/sheet/worksheet_view.h"
 #include "shell/application.h"

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <QDialog>
-#include <QImage>
-#include <QStringList>
+#include <QtTest>
+#include <QtWidgets>
 #include <deque>
 #include <functional>
 #include <memory>
@@ -11,8 +10,6 @@
 #include "files/work_folder.h"
 #include "qt/desktop/qt_desktop.h"
 #include "qt/frame/frame_view.h"
-
-class QMdiSubWindow;
 
 namespace quorvane::testing {
 

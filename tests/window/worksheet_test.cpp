@@ -1,15 +1,4 @@
 // SPDX-License-Identifier: MIT
-#include <QApplication>
-#include <QClipboard>
-#include <QColorDialog>
-#include <QDropEvent>
-#include <QLabel>
-#include <QMessageBox>
-#include <QMimeData>
-#include <QScrollBar>
-#include <QTest>
-#include <QWheelEvent>
-
 #include "diagram/box_table.h"
 #include "diagram/layout.h"
 #include "window/window_fixture.h"
