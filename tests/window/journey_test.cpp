@@ -202,6 +202,7 @@ private slots:
         QTest::keyClicks(field, "caps lock");
         QTest::keyClick(field, Qt::Key_Return);
         QVERIFY(text().startsWith("Quorvane"));
+        program->Choose("mnuHelpSearch");
         auto* view = help->findChild<QTextBrowser*>("helpText");
         for (const char* word : {"Shift+Enter", "surprises"}) {
             field->setText(word);
