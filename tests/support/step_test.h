@@ -99,7 +99,7 @@ protected:
 
     /// Cuts off what stands before the first blank.
     static std::string TakeWord(std::string& text) {
-        const auto word = text.substr(0, text.find(' '));
+        auto word = text.substr(0, text.find(' '));
         text.erase(0, word.size() + 1);
         return word;
     }
