@@ -26,6 +26,8 @@ struct Dialogs : CatalogueTest {
 
 TEST_F(Dialogs, EachOptionMakesItsBox) {
     for (const auto& list : optionLists) {
+        frmOptionList_Load(list);
+        EXPECT_EQ(frmOptionList.Form.Caption, list.Caption);
         for (const auto& option : list.Options) {
             const auto name = OptionName(list, option);
             const bool basic = list.Dialog == "frmBasic";
