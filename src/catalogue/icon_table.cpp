@@ -2,6 +2,7 @@
 #include "catalogue/icon_table.h"
 
 #include <algorithm>
+#include <array>
 
 #include "catalogue/box_commands.h"
 
@@ -163,14 +164,23 @@ constexpr IconRow rows[] = {
     {144, "wavrite"},
 };
 
+/// The rows by their keys: loading a diagram looks up each box.
+constexpr auto byKey = [] {
+    auto sorted = std::to_array(rows);
+    std::sort(sorted.begin(), sorted.end(),
+              [](const IconRow& a, const IconRow& b) { return a.Key < b.Key; });
+    return sorted;
+}();
+
 }  // namespace
 
 const std::span<const IconRow> iconTable = rows;
 
 int IconCell(std::string_view key) {
-    const auto row = std::find_if(iconTable.begin(), iconTable.end(),
-                                  [&](const IconRow& candidate) { return candidate.Key == key; });
-    if (row != iconTable.end()) return row->Cell;
+    const auto* row =
+        std::lower_bound(byKey.begin(), byKey.end(), key,
+                         [](const IconRow& a, std::string_view b) { return a.Key < b; });
+    if (row != byKey.end() && row->Key == key) return row->Cell;
     const int cell = CommandCell(key);
     return cell != 0 ? cell : FallbackCell;
 }
