@@ -2,6 +2,8 @@
 #include "catalogue/box_commands.h"
 
 #include <algorithm>
+#include <iterator>
+#include <vector>
 
 namespace quorvane {
 
@@ -105,6 +107,26 @@ bool HasKey(const BoxCommand& row, std::string_view key) {
     return std::find(row.ToolboxKeys.begin(), row.ToolboxKeys.end(), key) != row.ToolboxKeys.end();
 }
 
+struct KeyCell {
+    std::string_view Key;
+    int Cell = 0;
+};
+
+/// The pictures of the commands, in the order of their keys.
+std::vector<KeyCell> MakeKeyCells() {
+    std::vector<KeyCell> byKey;
+    for (const auto& row : rows) {
+        if (row.Cell == 0) continue;
+        for (const auto key : row.ToolboxKeys) {
+            if (!key.empty()) byKey.push_back({key, row.Cell});
+        }
+        if (row.Icon == Type && !row.BoxType.empty()) byKey.push_back({row.BoxType, row.Cell});
+    }
+    std::sort(byKey.begin(), byKey.end(),
+              [](const KeyCell& a, const KeyCell& b) { return a.Key < b.Key; });
+    return byKey;
+}
+
 template <class Test>
 const BoxCommand* FindRow(Test&& test) {
     const auto* row = std::find_if(std::begin(rows), std::end(rows), test);
@@ -127,11 +149,12 @@ std::string_view ToolboxCommand(std::string_view key) {
 }
 
 int CommandCell(std::string_view key) {
-    if (key.empty()) return 0;
-    const auto* found = FindRow([&](const BoxCommand& row) {
-        return row.Cell != 0 && (HasKey(row, key) || (row.Icon == Type && row.BoxType == key));
-    });
-    return found ? found->Cell : 0;
+    // Loading a diagram asks for each box.
+    static const auto cells = MakeKeyCells();
+    const auto found =
+        std::lower_bound(cells.begin(), cells.end(), key,
+                         [](const KeyCell& a, std::string_view b) { return a.Key < b; });
+    return found != cells.end() && found->Key == key ? found->Cell : 0;
 }
 
 }  // namespace quorvane
