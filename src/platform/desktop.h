@@ -83,6 +83,12 @@ struct Desktop {
     /// A clock that never goes back.
     virtual std::int64_t Milliseconds() = 0;
 
+    /// Where the program keeps this user's files: his data, where the launcher puts settings and
+    /// toolboxes, and what only has to outlive a run. The folder may not be there yet; "" when the
+    /// system names none.
+    virtual std::string DataFolder() = 0;
+    virtual std::string StateFolder() = 0;
+
     /// The per-user store: values by section and key; "" where there is none.
     virtual std::string ReadStore(const std::string& section, const std::string& key) = 0;
     virtual void WriteStore(const std::string& section, const std::string& key,

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "platform/paths.h"
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "platform/numbers.h"
@@ -56,14 +55,6 @@ int FileAttributes(const std::string& path) {
     std::error_code error;
     if (!std::filesystem::is_regular_file(FindFile(path), error)) throw RuntimeError(53);
     return archive;
-}
-
-std::string UserDataFolder() {
-    const char* data = std::getenv("XDG_DATA_HOME");
-    if (data && *data) return JoinPath(data, "quorvane");
-    const char* home = std::getenv("HOME");
-    if (home && *home) return JoinPath(JoinPath(JoinPath(home, ".local"), "share"), "quorvane");
-    return "";
 }
 
 std::string CurrentDirectory() {

@@ -21,10 +21,6 @@ std::string FindInFolder(std::string_view folder, std::string_view name);
 /// 32 for a regular file, found as FindFile does; error 53 for anything else and for none.
 int FileAttributes(const std::string& path);
 
-/// Where this user's data of the program lies; "" when the surroundings don't tell. The launcher
-/// keeps settings and toolboxes there.
-std::string UserDataFolder();
-
 /// The process's current folder; error 76 when it is gone.
 std::string CurrentDirectory();
 /// Error 76 when there is no such folder.

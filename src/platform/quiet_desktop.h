@@ -46,6 +46,8 @@ struct QuietDesktop : Desktop {
     void InterruptEngine() override {}
     void KillEngine() override {}
     std::int64_t Milliseconds() override { return 0; }
+    std::string DataFolder() override { return ""; }
+    std::string StateFolder() override { return ""; }
     std::string ReadStore(const std::string&, const std::string&) override { return ""; }
     void WriteStore(const std::string&, const std::string&, const std::string&) override {}
     std::vector<std::pair<std::string, std::string>> ReadStoreSection(const std::string&) override {

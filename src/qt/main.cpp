@@ -41,10 +41,10 @@ int main(int argc, char** argv) {
     // Starting may lead to another folder.
     QStringList diagrams = QApplication::arguments().mid(1);
     for (auto& diagram : diagrams) diagram = QFileInfo(diagram).absoluteFilePath();
-    quorvane::GoToSettings();
-    quorvane::ResetApplication();
     quorvane::QtDesktop desktop;
     quorvane::desktop = &desktop;
+    quorvane::GoToSettings();
+    quorvane::ResetApplication();
     quorvane::FrameView frame;
     quorvane::Dispatch(quorvane::StartProgram);
     frame.show();

@@ -5,6 +5,7 @@
 
 #include "diagram/worksheet.h"
 #include "files/document_file.h"
+#include "platform/desktop.h"
 #include "platform/file_table.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
@@ -27,7 +28,7 @@ std::string FreeName(const std::string& folder) {
 
 std::vector<std::string> WriteRecoveryFiles() {
     std::vector<std::string> files;
-    const auto folder = UserDataFolder();
+    const auto folder = desktop->DataFolder();
     if (folder.empty()) return files;
     std::error_code error;
     std::filesystem::create_directories(folder, error);

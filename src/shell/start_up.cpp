@@ -69,9 +69,8 @@ void GoToSettings() {
         return Attempt([&] { FileAttributes(JoinPath(folder, "quorvane.ini")); });
     };
     Attempt([&] {
-        if (!hasSettings(CurrentDirectory()) && hasSettings(UserDataFolder())) {
-            ChangeDirectory(UserDataFolder());
-        }
+        const auto folder = desktop->DataFolder();
+        if (!hasSettings(CurrentDirectory()) && hasSettings(folder)) ChangeDirectory(folder);
     });
 }
 

@@ -3,8 +3,6 @@
 
 #include <sys/stat.h>
 
-#include <cstdlib>
-
 #include "files/document_fixture.h"
 #include "platform/child_process.h"
 #include "platform/file_table.h"
@@ -28,13 +26,13 @@ protected:
     /// written, 100 more when a file number or a name in the folder was left behind, -1 for a
     /// crash.
     template <class Prepare>
-    static int FilesWritten(const std::string& data, Prepare prepare) {
+    int FilesWritten(const std::string& data, Prepare prepare) {
+        screen.Data = data;
         return InChild([&] {
-            setenv("XDG_DATA_HOME", data.c_str(), 1);
             prepare();
             const auto written = WriteRecoveryFiles();
             std::error_code error;
-            const std::filesystem::directory_iterator in(data + "/quorvane", error);
+            const std::filesystem::directory_iterator in(data, error);
             const auto names = error ? 0 : std::distance(begin(in), end(in));
             bool clean = FreeFile() == 1 && names == std::ssize(written);
             for (const auto& file : written) clean &= std::filesystem::exists(file);
@@ -44,31 +42,31 @@ protected:
 };
 
 TEST_F(Recovery, ChangedDocumentsAreSavedUnderFreeNames) {
-    std::filesystem::create_directory("quorvane");
-    WriteAll("quorvane/recovered-1.qvm", "old");
-    EXPECT_EQ(FilesWritten(folder.Path.string(), [] {}), 102) << "beside the one that was there";
-    EXPECT_EQ(ReadAll("quorvane/recovered-1.qvm"), "old");
+    std::filesystem::create_directory("data");
+    WriteAll("data/recovered-1.qvm", "old");
+    EXPECT_EQ(FilesWritten(folder / "data", [] {}), 102) << "beside the one that was there";
+    EXPECT_EQ(ReadAll("data/recovered-1.qvm"), "old");
     for (std::int16_t i = 1; i <= 2; ++i) {
-        const auto name = "quorvane/recovered-" + std::to_string(i + 1) + ".qvm";
+        const auto name = "data/recovered-" + std::to_string(i + 1) + ".qvm";
         EXPECT_EQ(ReadAll(name), DocumentText(i) + "\r\n");
     }
 }
 
 TEST_F(Recovery, NoDataFolderIsTooBad) {
     WriteAll(folder / "file", "");
-    std::filesystem::create_directories(folder / "read_only/quorvane");
-    std::filesystem::create_directories(folder / "shut/quorvane");
+    std::filesystem::create_directories(folder / "read_only");
+    std::filesystem::create_directories(folder / "shut");
     std::filesystem::create_directory_symlink("loop", folder / "loop");
-    ASSERT_EQ(chmod((folder / "read_only/quorvane").c_str(), 0555), 0);
-    ASSERT_EQ(chmod((folder / "shut/quorvane").c_str(), 0), 0);
+    ASSERT_EQ(chmod((folder / "read_only").c_str(), 0555), 0);
+    ASSERT_EQ(chmod((folder / "shut").c_str(), 0), 0);
     const auto none = [] {};
     EXPECT_EQ(FilesWritten(folder / "file", none), 0);
     EXPECT_EQ(FilesWritten(folder / "loop", none), 0);
     EXPECT_EQ(FilesWritten(folder / std::string(300, 'n'), none), 0);
     EXPECT_EQ(FilesWritten(folder / "read_only", BecomeNobody), 0);
     EXPECT_EQ(FilesWritten(folder / "shut", BecomeNobody), 0);
-    EXPECT_EQ(FilesWritten("", [] { unsetenv("HOME"); }), 0);
-    ASSERT_EQ(chmod((folder / "shut/quorvane").c_str(), 0755), 0);
+    EXPECT_EQ(FilesWritten("", none), 0);
+    ASSERT_EQ(chmod((folder / "shut").c_str(), 0755), 0);
     EXPECT_EQ(FilesWritten(folder / "new/deep", none), 2);
 }
 

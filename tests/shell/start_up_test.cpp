@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "shell/start_up.h"
 
-#include <cstdlib>
-
 #include "generator/front.h"
 #include "matlab_link/start_matlab.h"
 #include "quorvane/version.h"
@@ -25,7 +23,7 @@ protected:
         Know({
             {"start", Seen([this](A a) { return Started(a.Text); })},
             {"splash", Seen([this](A a) { return Splash(a.Given); })},
-            {"data", Step([this](A a) { setenv("XDG_DATA_HOME", (folder / a.Text).c_str(), 1); })},
+            {"data", Step([this](A a) { start.Data = folder / a.Text; })},
             {"settings", Step([](A) { GoToSettings(); })},
             {"link", Step([](A a) { std::filesystem::create_symlink("/dev/zero", a.Text); })},
             {"gone", Step([this](A a) { std::filesystem::remove_all(InFolder(a.Text)); })},
@@ -41,10 +39,6 @@ protected:
             std::filesystem::create_directory(name);
         }
         WriteAll("program/QUORVANE.INI", "[Prefrences]\r\nShow Toolbox=0\r\nToolbox Size=4X2\r\n");
-    }
-    void TearDown() override {
-        unsetenv("XDG_DATA_HOME");
-        StepTest::TearDown();
     }
 
 private:

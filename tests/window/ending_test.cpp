@@ -5,6 +5,7 @@
 #include "diagram/worksheet.h"
 #include "platform/runtime_error.h"
 #include "qt/desktop/dispatch.h"
+#include "qt/desktop/qt_desktop.h"
 #include "window/window_fixture.h"
 
 namespace quorvane::testing {
@@ -58,6 +59,27 @@ private slots:
                      ending.Told + ("\n\nChanged diagrams were saved as:\n" + file + "\n"));
             QVERIFY(ReadAll(file).starts_with("1\r\nSin~"));
         }
+    }
+
+    void the_environment_names_the_folders_of_the_user() {
+        struct Row {
+            const char *Data, *State, *Home;
+            std::string DataFolder, StateFolder;
+        };
+        const auto home = qgetenv("HOME");
+        for (const auto& [data, state, at, dataFolder, stateFolder] : {
+                 Row{"/d", "/s", "/h", "/d/quorvane", "/s/quorvane"},
+                 Row{"", "", "/h", "/h/.local/share/quorvane", "/h/.local/state/quorvane"},
+                 Row{"/d", "", "", "/d/quorvane", ""},
+             }) {
+            qputenv("XDG_DATA_HOME", data);
+            qputenv("XDG_STATE_HOME", state);
+            qputenv("HOME", at);
+            QtDesktop asked;
+            QCOMPARE(asked.DataFolder(), dataFolder);
+            QCOMPARE(asked.StateFolder(), stateFolder);
+        }
+        qputenv("HOME", home);
     }
 };
 

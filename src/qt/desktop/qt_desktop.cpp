@@ -15,6 +15,7 @@
 #include <QThread>
 #include <QTime>
 #include <chrono>
+#include <cstdlib>
 
 #include "diagram/preferences.h"
 #include "platform/paths.h"
@@ -156,6 +157,14 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
     return ToCore(file);
 }
 
+/// The program's folder in the one that the variable names, else in that place below the home.
+std::string UserFolder(const char* variable, std::string_view belowHome) {
+    const char* folder = std::getenv(variable);
+    if (folder && *folder) return JoinPath(folder, "quorvane");
+    const char* home = std::getenv("HOME");
+    return home && *home ? JoinPath(JoinPath(home, belowHome), "quorvane") : "";
+}
+
 QString StoreKey(const std::string& section, const std::string& key) {
     return ToScreen(section) + "/" + ToScreen(key);
 }
@@ -279,6 +288,9 @@ std::int64_t QtDesktop::Milliseconds() {
     using namespace std::chrono;
     return duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count();
 }
+
+std::string QtDesktop::DataFolder() { return UserFolder("XDG_DATA_HOME", ".local/share"); }
+std::string QtDesktop::StateFolder() { return UserFolder("XDG_STATE_HOME", ".local/state"); }
 
 std::string QtDesktop::ReadStore(const std::string& section, const std::string& key) {
     return ToCore(QSettings().value(StoreKey(section, key)).toString());

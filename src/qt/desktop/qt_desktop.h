@@ -31,6 +31,8 @@ struct QtDesktop : Desktop {
     void InterruptEngine() override;
     void KillEngine() override;
     std::int64_t Milliseconds() override;
+    std::string DataFolder() override;
+    std::string StateFolder() override;
     std::string ReadStore(const std::string& section, const std::string& key) override;
     void WriteStore(const std::string& section, const std::string& key,
                     const std::string& value) override;
