@@ -8,6 +8,7 @@
 #include <stdexcept>
 
 #include "check/check_document.h"
+#include "diagram/arrows.h"
 #include "diagram/worksheet.h"
 #include "diagrams.h"
 #include "files/document_file.h"
@@ -17,6 +18,8 @@
 #include "platform/numbers.h"
 #include "shell/application.h"
 #include "support/scripted_desktop.h"
+#include "workbench/after_event.h"
+#include "workbench/history.h"
 
 using namespace quorvane;
 using namespace quorvane::bench;
@@ -112,12 +115,36 @@ void Saving(benchmark::State& state, const Shape& shape, int boxes) {
     Measure(state, subject, nothing, [] { SaveDocument(1, 1); });
 }
 
+/// What the workbench costs after an event: one that moved a box, and one that changed nothing.
+void Noticing(benchmark::State& state, const Shape& shape, int boxes, int moved) {
+    const auto subject = Prepare(shape, boxes);
+    DrawOnNewSheet(subject.Boxes);
+    RedrawDocument("1");
+    AfterEvent();
+    const auto before = HistoryChanges();
+    const auto prepare = [&] {
+        auto& control = Documents[1]->box[boxes / 2];
+        control.Left = Boxes[boxes / 2].BoxLeft += moved;
+        RedrawDocument("1");
+    };
+    Measure(state, subject, prepare, AfterEvent);
+    if ((HistoryChanges() == before) != (moved == 0)) state.SkipWithError("a wrong step");
+}
+
+void Stepping(benchmark::State& state, const Shape& shape, int boxes) {
+    Noticing(state, shape, boxes, 15);
+}
+
+void Resting(benchmark::State& state, const Shape& shape, int boxes) {
+    Noticing(state, shape, boxes, 0);
+}
+
 struct Operation {
     const char* Name;
     void (*Run)(benchmark::State& state, const Shape& shape, int boxes);
 };
-constexpr Operation operations[] = {
-    {"load", Loading}, {"compile", Compiling}, {"check", Checking}, {"save", Saving}};
+constexpr Operation operations[] = {{"load", Loading}, {"compile", Compiling}, {"check", Checking},
+                                    {"save", Saving},  {"step", Stepping},     {"rest", Resting}};
 
 /// Under the names operation/shape/boxes.
 void RegisterAll() {

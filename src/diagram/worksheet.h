@@ -23,6 +23,8 @@ struct BoxControl {
     int Picture = 0;  ///< Cell of the icon strip, 1 to 146; 0 no picture
     int MousePointer = PointerDefault;
     bool DragAutomatic = false;  ///< The left button drags it; else it is clicked
+
+    friend bool operator==(const BoxControl&, const BoxControl&) = default;
 };
 
 /// The selection rectangle, in client coordinates.
@@ -105,6 +107,8 @@ struct FrameWindow {
 struct DocumentState {
     std::int16_t Modified = 0;  ///< -1 with changes that are not saved
     std::int16_t Closed = 0;    ///< -1 when the document was closed and its number is free
+    int Stored = 0;  ///< Grows when the boxes are those of a new worksheet, or of the file on disk
+    bool SaveFailed = false;  ///< The system refused the last save, which passes over that in silence
 };
 
 /// The open documents by number; element 0 holds none. A closed document may have no window.

@@ -238,22 +238,27 @@ void ResetDocumentFile() {
 
 std::int16_t NewDocument() {
     const auto number = AllocateDocument();
-    auto& window = Documents[number];
+    OpenWindow(number);
+    Documents[number]->Caption = "Untitled:" + Documents[number]->Tag;
+    EditMode = 1;
+    ++DocumentStates[number].Stored;
+    return number;
+}
+
+void OpenWindow(std::int16_t document) {
+    auto& window = Documents[document];
     if (!window) {
         window = std::make_unique<Worksheet>();
         main_Load(*window);
     }
-    window->Tag = NumberText(number);
-    window->Caption = "Untitled:" + window->Tag;
+    window->Tag = NumberText(document);
     window->mnuOptionsToolbox.Checked = frmMDI.mnuOptionsToolbox.Checked;
     window->mnuOptionsCurrentToolbox.Caption = frmMDI.mnuOptionsCurrentToolbox.Caption;
-    EditMode = 1;
     for (int k = 1; k <= 4; ++k) {
         if (frmMDI.mnuFileArray[k].Visible) window->mnuFileArray[k] = frmMDI.mnuFileArray[k];
     }
     if (frmMDI.mnuFileArray[0].Visible) window->mnuFileArray[0].Visible = true;
     window->Shown = true;
-    return number;
 }
 
 void LoadDocument(const std::string& name) {
@@ -290,6 +295,7 @@ void LoadDocumentFile(const std::string& path, void (*open)(int number, const st
     lastLoad.Finished = true;
     UpdateBoxGauge(BoxTableFill());
     window.Caption = path;
+    ++DocumentStates[load.Document].Stored;
     ClearSelectionRect(window.Tag);
 }
 
@@ -300,10 +306,12 @@ void SaveDocument(std::int16_t document, std::int16_t mode) {
         if (!AskForName(window.Caption, name)) return;
     }
     // A failure is passed over in silence; the old file is then still there.
-    Attempt([&] { ReplaceFile(name, DocumentText(document) + "\r\n"); });
+    auto& state = DocumentStates[document];
+    state.SaveFailed = !Attempt([&] { ReplaceFile(name, DocumentText(document) + "\r\n"); });
+    if (!state.SaveFailed) ++state.Stored;
     AddRecentFile(name);
     window.Caption = name;
-    DocumentStates[document].Modified = 0;
+    state.Modified = 0;
 }
 
 }  // namespace quorvane

@@ -24,6 +24,9 @@ extern LoadOutcome lastLoad;
 /// Makes a document and its window, captioned "Untitled:" and its number. Returns the number.
 std::int16_t NewDocument();
 
+/// Makes the window of a document that has none, and brings its menus in line with the frame's.
+void OpenWindow(std::int16_t document);
+
 /// Loads a diagram behind the boxes that are in the table. An empty name asks the user for a file;
 /// of any other only the last component counts, which is looked for in the current folder.
 void LoadDocument(const std::string& name);

@@ -17,6 +17,8 @@ struct DrawnShape {
     double X1 = 0, Y1 = 0;
     double X2 = 0, Y2 = 0;                            ///< Line only
     double Radius = 0, StartAngle = 0, EndAngle = 0;  ///< Pie only
+
+    friend bool operator==(const DrawnShape&, const DrawnShape&) = default;
 };
 
 }  // namespace quorvane

@@ -32,6 +32,7 @@
 #include "shell/tour.h"
 #include "toolbox/toolbox.h"
 #include "toolbox/toolbox_config.h"
+#include "workbench/history.h"
 
 namespace quorvane {
 
@@ -86,6 +87,7 @@ void ResetApplication() {
     ProgramDirectory.clear();
     HelpFile = Manual;
     TourStep = 0;
+    ResetHistory();
     ResetForms();
 }
 

@@ -12,8 +12,9 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// What stays: whoever starts the program sets the desktop, and the open files have CloseAllFiles.
-const std::set<std::string> Kept = {"desktop", "openFiles", "currentLine"};
+/// What stays: whoever starts the program sets the desktop, the open files have CloseAllFiles, and
+/// snapshots count their bytes themselves.
+const std::set<std::string> Kept = {"desktop", "openFiles", "currentLine", "keptBytes"};
 
 using Names = std::set<std::string>;
 

@@ -6,6 +6,7 @@
 
 #include "platform/runtime_error.h"
 #include "shell/recovery.h"
+#include "workbench/after_event.h"
 
 namespace quorvane {
 
@@ -42,16 +43,23 @@ RuntimeError ErrorOf(const std::exception_ptr& thrown) {
 }
 
 bool handlerRuns = false;
+int handlersRunning = 0;  ///< More than one while a dialog of a handler is open
 
 bool MayStart(const QWidget* source) {
     const auto* dialog = QApplication::activeModalWidget();
     return !handlerRuns && (!dialog || (source && source->window() == dialog));
 }
 
-/// Sets whether a handler runs, for as long as this lives.
+/// A handler runs for as long as this lives.
 struct RunningScope {
-    explicit RunningScope(bool runs) { handlerRuns = runs; }
-    ~RunningScope() { handlerRuns = Before; }
+    RunningScope() {
+        handlerRuns = true;
+        ++handlersRunning;
+    }
+    ~RunningScope() {
+        handlerRuns = Before;
+        --handlersRunning;
+    }
     const bool Before = handlerRuns;
 };
 
@@ -65,8 +73,11 @@ void Dispatch(const std::function<void()>& handler, const QWidget* source) {
         return;
     }
     DispatchLayout([&] {
-        const RunningScope running(true);
-        handler();
+        {
+            const RunningScope running;
+            handler();
+        }
+        if (handlersRunning == 0) AfterEvent();
     });
 }
 
@@ -75,7 +86,7 @@ void DispatchLayout(const std::function<void()>& handler) {
         handler();
         RefreshScreen();
     } catch (...) {
-        const RunningScope running(true);
+        const RunningScope running;
         EndAfter(ErrorOf(std::current_exception()));
     }
 }
