@@ -74,7 +74,7 @@ TrialEnd TryCompiling(int document) {
         end.Error = error.Number;
     }
     end.Depth = nestingDepth;
-    for (const auto& box : Boxes) end.Written.push_back(box.BoxMark == "OK");
+    for (const auto& box : Boxes) end.Written.push_back(IsDone(box));
     return end;
 }
 

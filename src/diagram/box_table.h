@@ -58,6 +58,12 @@ const Box& BoxOrFree(int number);
 /// so.
 std::string BoxIconKey(int number);
 
+/// True for a box that the generator has emitted in this run.
+inline bool IsDone(const Box& box) {
+    // A view is compared by its length first, and a run asks this of every box in the front.
+    return std::string_view(box.BoxMark) == "OK";
+}
+
 /// "box" and the number, the script variable of a box.
 std::string BoxName(int number);
 

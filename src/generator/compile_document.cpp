@@ -19,6 +19,8 @@ RunEnd lastRunEnd = RunEnd::None;
 
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr std::string_view IndentStep = "   ";
 
 bool AllEntriesAre(const Box& box, std::int16_t value) {
@@ -34,11 +36,13 @@ bool StartsUnwired(const Box& box) { return frmPrefs.chkInput.Value == 1 && AllE
 
 /// The sources come first.
 void AddStartBoxes(const Run& run) {
-    for (const auto starts : {IsSource, StartsUnwired}) {
+    const auto add = [&run](auto starts) {
         for (std::int16_t i = 1; i < NextBox; ++i) {
             if (Boxes[i].BoxDocument == run.Document && starts(Boxes[i])) AddToFront(i);
         }
-    }
+    };
+    add(IsSource);
+    add(StartsUnwired);
 }
 
 /// Only slots 1 to 5 decide whether there is anything to start with.
@@ -114,18 +118,19 @@ void NoteLines(Run& run, int box) {
 /// block replaces the whole front. False when the run is to be broken off.
 bool VisitSlot(Run& run, int slot) {
     const int found = Front[slot];
+    if (found == 0) return true;
     const Box& box = ReadBox(run, found);
-    if (box.BoxMark == "OK") {
+    if (IsDone(box)) {
         RemoveFromFront(slot);
         return true;
     }
-    if (found != 0 && box.BoxText != "Deleted") {
+    if (box.BoxText != "Deleted"sv) {
         Indent(run);
         EmitBox(run, found, slot);
         if (run.Mode == 0) NoteLines(run, found);
     }
     const Box& now = ReadBox(run, Front[slot]);
-    return now.BoxMark == "OK" ? Succeed(run, slot, now) : Stall(run, slot);
+    return IsDone(now) ? Succeed(run, slot, now) : Stall(run, slot);
 }
 
 /// A front that holds nothing but numbers below 0, which stand for no box, would be walked for

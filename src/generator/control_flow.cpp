@@ -8,6 +8,8 @@ namespace quorvane {
 
 namespace {
 
+using namespace std::string_view_literals;
+
 constexpr std::string_view ElseMark = "else";
 
 /// A block opens only when no other box of the front could go on instead. The feeders are asked
@@ -62,7 +64,7 @@ bool WriteEndSubroutine(Run& run, int box, int /*slot*/) {
 }
 
 int ArmCount(const Box& box) {
-    if (box.BoxType != "If") return 0;
+    if (box.BoxType != "If"sv) return 0;
     return box.BoxText.starts_with(ElseMark) ? 2 : 1;
 }
 

@@ -147,29 +147,29 @@ bool Contains(const std::vector<std::string_view>& names, std::string_view name)
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
+/// Appends what a hole of a row's text stands for.
+void FillHole(std::string& script, std::string_view hole, int number) {
+    const Box& box = Boxes[number];
+    if (hole == "id") {
+        AppendNumber(script, number);
+    } else if (hole.starts_with("in")) {
+        AppendNumber(script, box.BoxIn[hole.back() - '0']);
+    } else {
+        const auto& word = hole.ends_with("value") ? box.BoxText : box.BoxType;
+        script += hole.starts_with("lc") ? LowerCase(word) : word;
+    }
+}
+
 /// Appends a text of a row with its holes filled.
 void Fill(Run& run, std::string_view text, int number) {
-    const Box& box = Boxes[number];
-    while (!text.empty()) {
-        const auto open = text.find('{');
-        run.scriptText += text.substr(0, open);
-        if (open == std::string_view::npos) return;
-        const auto close = text.find('}', open);
-        const auto hole = text.substr(open + 1, close - open - 1);
-        text.remove_prefix(close + 1);
-        if (hole == "id") {
-            AppendNumber(run.scriptText, number);
-        } else if (hole == "value") {
-            run.scriptText += box.BoxText;
-        } else if (hole == "lcvalue") {
-            run.scriptText += LowerCase(box.BoxText);
-        } else if (hole == "type") {
-            run.scriptText += box.BoxType;
-        } else if (hole == "lctype") {
-            run.scriptText += LowerCase(box.BoxType);
-        } else {
-            AppendNumber(run.scriptText, box.BoxIn[hole.back() - '0']);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] != '{') {
+            run.scriptText += text[i];
+            continue;
         }
+        const auto end = text.find('}', i);
+        FillHole(run.scriptText, text.substr(i + 1, end - i - 1), number);
+        i = end;
     }
 }
 

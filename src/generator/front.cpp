@@ -2,6 +2,7 @@
 #include "generator/front.h"
 
 #include <algorithm>
+#include <string_view>
 
 #include "diagram/box_table.h"
 #include "platform/numbers.h"
@@ -14,6 +15,8 @@ GrowableArray<GrowableArray<std::int16_t>> FrameStack;
 std::int16_t nestingDepth = 0;
 
 namespace {
+
+using namespace std::string_view_literals;
 
 constexpr int FrontStep = 5;
 
@@ -68,18 +71,18 @@ bool InputsReady(std::string& scriptText, int box) {
     for (const auto feeder : Boxes[box].BoxIn) {
         if (feeder <= 0) continue;
         Box& source = Boxes[feeder];
-        if (source.BoxType == "Pickup") {
+        if (source.BoxType == "Pickup"sv) {
             scriptText += BoxName(feeder) + "=" + source.BoxText + ";\r\n";
             source.BoxMark = "OK";
         }
-        if (source.BoxMark != "OK") return false;
+        if (!IsDone(source)) return false;
     }
     return true;
 }
 
 int UndoneFeeder(int box) {
     for (const int feeder : Boxes[box].BoxIn) {
-        if (feeder > 0 && Boxes[feeder].BoxMark != "OK") return feeder;
+        if (feeder > 0 && !IsDone(Boxes[feeder])) return feeder;
     }
     return 0;
 }

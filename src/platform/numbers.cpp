@@ -97,7 +97,7 @@ std::int32_t TextToInt32(std::string_view text) { return TextToInteger<std::int3
 void AppendNumber(std::string& text, std::int64_t number) {
     char digits[24];
     const auto result = std::to_chars(digits, digits + sizeof digits, number);
-    text.append(digits, result.ptr);
+    text += std::string_view(digits, result.ptr);
 }
 
 std::string NumberText(std::int64_t number) {
