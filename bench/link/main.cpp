@@ -7,7 +7,7 @@
 
 #include "diagram/box_table.h"
 #include "files/document_file.h"
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "matlab_link/link.h"
 #include "qt/desktop/qt_desktop.h"
 #include "qt/frame/frame_view.h"

@@ -8,8 +8,8 @@
 #include "generator/control_flow.h"
 #include "generator/emission_chain.h"
 #include "generator/front.h"
-#include "generator/output_targets.h"
 #include "generator/run.h"
+#include "generator/send_to_matlab.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "diagram/box_table.h"
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "matlab_link/answer_reader.h"
 #include "matlab_link/engine_folder.h"
 #include "matlab_link/script_blocks.h"

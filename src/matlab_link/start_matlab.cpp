@@ -1,21 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "matlab_link/start_matlab.h"
 
-#include <algorithm>
-#include <filesystem>
+#include <string>
+#include <vector>
 
 #include "diagram/preferences.h"
+#include "matlab_link/directory_dialog.h"
 #include "matlab_link/link.h"
 #include "platform/desktop.h"
-#include "platform/numbers.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 
 namespace quorvane {
-
-namespace fs = std::filesystem;
-
-DirectoryForm frmDirectory;
 
 namespace {
 
@@ -25,58 +21,6 @@ const std::vector<std::string> programs = {"matlab.exe"};
 #else
 const std::vector<std::string> programs = {"matlab", "octave-cli", "octave"};
 #endif
-
-/// Runs an action with each entry of the current directory; what can't be read has none.
-template <class Action>
-void ForEachEntry(Action&& action) {
-    std::error_code error;
-    fs::directory_iterator at(".", error);
-    for (; !error && at != fs::directory_iterator(); at.increment(error)) action(*at);
-}
-
-std::vector<std::string> Drives() {
-    std::vector<std::string> drives;
-#ifdef _WIN32
-    std::error_code error;
-    for (char letter = 'A'; letter <= 'Z'; ++letter) {
-        const auto drive = std::string(1, letter) + ":";
-        if (fs::exists(drive + "\\", error)) drives.push_back(drive);
-    }
-#endif
-    return drives;
-}
-
-/// ".." and the subfolders of the current directory.
-std::vector<std::string> WaysOn() {
-    std::vector<std::string> folders = {".."};
-    ForEachEntry([&](const fs::directory_entry& entry) {
-        std::error_code error;
-        if (entry.is_directory(error)) folders.push_back(entry.path().filename().string());
-    });
-    std::sort(folders.begin() + 1, folders.end());
-    return folders;
-}
-
-/// The first "*.ini" of the current directory, "" when there is none.
-std::string FirstSettingsFile() {
-    std::string first;
-    ForEachEntry([&](const fs::directory_entry& entry) {
-        std::error_code error;
-        const auto name = entry.path().filename().string();
-        if (!UpperCase(name).ends_with(".INI") || entry.is_directory(error)) return;
-        if (first.empty() || name < first) first = name;
-    });
-    return first;
-}
-
-void AcceptByItself() {
-    if (UpperCase(FirstSettingsFile()) != "QUORVANE.INI" ||
-        frmDirectory.lblTop.Caption != "Please Locate the Quorvane Directory") {
-        return;
-    }
-    frmDirectory.director.Text = CurrentDirectory();
-    frmDirectory_cmdOK_Click();
-}
 
 /// Error 53 when none of the programs is there.
 std::string FindProgram(const std::string& folder) {
@@ -93,48 +37,6 @@ void ReportFailure(Statement&& statement) {
 }
 
 }  // namespace
-
-void frmDirectory_Load() {
-    frmDirectory = {};
-    frmDirectory.Form.Loaded = true;
-    Attempt([] { frmDirectory.director.Text = CurrentDirectory(); });
-    frmDirectory.Drive1.List = Drives();
-    if (!frmDirectory.Drive1.List.empty()) {
-        frmDirectory.Drive1.Text = frmDirectory.director.Text.substr(0, 2);
-    }
-    frmDirectory.Dir1.Text = frmDirectory.director.Text;
-    frmDirectory.Dir1.List = WaysOn();
-}
-
-void frmDirectory_Drive1_Change() {
-    if (!Attempt([] { ChangeDirectory(frmDirectory.Drive1.Text); })) return;
-    frmDirectory.Dir1.Text = CurrentDirectory();
-    frmDirectory_Dir1_Change();
-}
-
-void frmDirectory_Dir1_Change() {
-    auto& path = frmDirectory.Dir1.Text;
-    if (!Attempt([&] { ChangeDirectory(path); })) return;
-    frmDirectory.director.Text = CurrentDirectory();
-    // A path that is being typed stays as it is, so that the user can go on typing.
-    if (!fs::path(path).is_absolute()) path = frmDirectory.director.Text;
-    frmDirectory.Dir1.List = WaysOn();
-    AcceptByItself();
-}
-
-void frmDirectory_cmdOK_Click() { frmDirectory.Form.Visible = false; }
-
-Form frmDirectory_Table() {
-    return {"frmDirectory",
-            &frmDirectory.Form,
-            {{"lblTop", &frmDirectory.lblTop},
-             {"Drive1", &frmDirectory.Drive1, frmDirectory_Drive1_Change},
-             {"Dir1", &frmDirectory.Dir1, frmDirectory_Dir1_Change},
-             {"director", &frmDirectory.director},
-             {"cmdOK", &frmDirectory.cmdOK, frmDirectory_cmdOK_Click}},
-            nullptr,
-            frmDirectory_cmdOK_Click};
-}
 
 void mnuFileStartMatlab_Click() {
     frmDirectory_Load();

@@ -4,7 +4,7 @@
 #include "diagram/box_table.h"
 #include "files/close_document.h"
 #include "files/document_file.h"
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "toolbox/toolbox.h"

@@ -5,7 +5,7 @@
 
 #include "diagram/preferences.h"
 #include "files/settings.h"
-#include "matlab_link/start_matlab.h"
+#include "matlab_link/directory_dialog.h"
 #include "platform/desktop.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"

@@ -8,7 +8,7 @@
 #include <deque>
 
 #include "engine/examples.h"
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "matlab_link/link.h"
 #include "platform/runtime_error.h"
 #include "qt/desktop/dispatch.h"

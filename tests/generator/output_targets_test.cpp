@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
+#include "generator/write_script.h"
 
 #include <algorithm>
 

@@ -4,7 +4,7 @@
 
 #include "files/work_folder.h"
 #include "generator/generator_fixture.h"
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "matlab_link/answer_reader.h"
 
 namespace quorvane::testing {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: MIT
 #include "matlab_link/start_matlab.h"
+#include "matlab_link/directory_dialog.h"
 
 #include "diagram/preferences.h"
 #include "support/step_test.h"

@@ -2,7 +2,7 @@
 #include "shell/frame.h"
 
 #include "files/settings.h"
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "shell/help.h"
 #include "shell/tour.h"
 #include "support/step_test.h"

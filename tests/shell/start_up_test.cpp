@@ -2,7 +2,7 @@
 #include "shell/start_up.h"
 
 #include "generator/front.h"
-#include "matlab_link/start_matlab.h"
+#include "matlab_link/directory_dialog.h"
 #include "quorvane/version.h"
 #include "support/step_test.h"
 

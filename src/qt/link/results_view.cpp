@@ -9,7 +9,7 @@
 #include <QPushButton>
 #include <QScrollBar>
 
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
 
