@@ -12,12 +12,6 @@ namespace quorvane {
 
 namespace {
 
-std::string_view Trimmed(std::string_view text) {
-    const auto first = text.find_first_not_of(" \t");
-    if (first == std::string_view::npos) return {};
-    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
-}
-
 /// Length of the run of digits at the front.
 std::size_t Digits(std::string_view text) {
     std::size_t n = 0;
@@ -68,6 +62,12 @@ Integer TextToInteger(std::string_view text) {
 }
 
 }  // namespace
+
+std::string_view Trimmed(std::string_view text) {
+    const auto first = text.find_first_not_of(" \t");
+    if (first == std::string_view::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t") - first + 1);
+}
 
 bool IsNumeric(std::string_view text) { return ShapeOf(Trimmed(text)) == NumberShape::Number; }
 bool BeginsNumber(std::string_view text) {

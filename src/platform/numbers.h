@@ -29,6 +29,9 @@ std::int32_t TextToInt32(std::string_view text);
 void AppendNumber(std::string& text, std::int64_t number);
 std::string NumberText(std::int64_t number);
 
+/// The text without the blanks and tabs around it.
+std::string_view Trimmed(std::string_view text);
+
 /// False for the bytes of a UTF-8 character behind its first one.
 bool BeginsCharacter(char byte);
 

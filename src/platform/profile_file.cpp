@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/profile_file.h"
 
-#define SI_NO_CONVERSION
-#define SI_IMPLEMENTATION
-#include <SimpleIni.h>
-
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -29,22 +26,21 @@ struct Meaning {
     std::string Value;
 };
 
-/// The library gets each line for itself. A whole file it would give back with other blank lines
-/// and without the lines that it doesn't understand.
-Meaning MeaningOf(const std::string& line) {
-    CSimpleIniA ini(true);
+/// Blanks around a line and its parts don't count, nor does a byte order mark in front. A comment
+/// begins with ";" or "#", and a NUL ends the line.
+Meaning MeaningOf(std::string_view line) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    if (line.starts_with(byteOrderMark)) line.remove_prefix(byteOrderMark.size());
+    line = Trimmed(line.substr(0, line.find('\0')));
     Meaning meaning;
-    if (ini.LoadData(line) < 0) return meaning;
-    CSimpleIniA::TNamesDepend names;
-    ini.GetAllSections(names);
-    if (names.empty()) return meaning;
-    const char* section = names.front().pItem;
-    ini.GetAllKeys(section, names);
-    if (names.empty()) {
-        meaning.Section = LowerCase(section);
-    } else {
-        meaning.Key = LowerCase(names.front().pItem);
-        meaning.Value = ini.GetValue(section, names.front().pItem);
+    if (line.starts_with('[')) {
+        const auto end = line.find(']');
+        if (end != line.npos) meaning.Section = LowerCase(Trimmed(line.substr(1, end - 1)));
+    } else if (!line.starts_with(';') && !line.starts_with('#')) {
+        const auto equals = line.find('=');
+        if (equals == 0 || equals == line.npos) return meaning;
+        meaning.Key = LowerCase(Trimmed(line.substr(0, equals)));
+        meaning.Value = Trimmed(line.substr(equals + 1));
     }
     return meaning;
 }
