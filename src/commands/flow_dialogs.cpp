@@ -3,7 +3,7 @@
 
 #include <cstdio>
 
-#include "diagram/box_table.h"
+#include "commands/read_fields.h"
 #include "diagram/comment_form.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
@@ -17,6 +17,17 @@ SubsForm frmSubs;
 PauseForm frmPause;
 UserInputForm frmUserInput;
 
+namespace {
+
+constexpr std::string_view ElseWord = "else";
+using Fields = std::vector<std::string>;
+
+std::string TextOf(const Box* former, const std::string& otherwise = "") {
+    return former ? former->BoxText : otherwise;
+}
+
+}  // namespace
+
 Form frmForLoop_Table() {
     return {.Name = "frmForLoop",
             .State = &frmForLoop.Form,
@@ -26,8 +37,14 @@ Form frmForLoop_Table() {
                          {"cmd", &frmForLoop.cmd, HideForm<frmForLoop>}}};
 }
 
-void CompleteFor(int box) {
+void CompleteFor(int box, const Box* former) {
     LoadForm(frmForLoop);
+    if (const auto fields = former ? ReadFields(former->BoxText, "{}:{}:{},") : Fields();
+        !fields.empty()) {
+        frmForLoop.txtFrom.Text = fields[0];
+        frmForLoop.txtInc.Text = fields[1];
+        frmForLoop.txtUntil.Text = fields[2];
+    }
     desktop->ShowModal("frmForLoop");
     Boxes[box].BoxText = frmForLoop.txtFrom.Text + ":" + frmForLoop.txtInc.Text + ":" +
                          frmForLoop.txtUntil.Text + ",";
@@ -42,20 +59,27 @@ Form frmIf_Table() {
                          {"cmdOK", &frmIf.cmdOK, HideForm<frmIf>}}};
 }
 
-void CompleteIf(int box) {
+void CompleteIf(int box, const Box* former) {
     LoadForm(frmIf);
+    if (former) {
+        const bool hasElse = former->BoxText.starts_with(ElseWord);
+        frmIf.chkelse.Value = hasElse ? 1 : 0;
+        frmIf.txtCondition.Text = former->BoxText.substr(hasElse ? ElseWord.size() : 0);
+    }
     desktop->ShowModal("frmIf");
-    Boxes[box].BoxText = (frmIf.chkelse.Value ? "else" : "") + frmIf.txtCondition.Text;
+    Boxes[box].BoxText = frmIf.chkelse.Value ? ElseWord : "";
+    Boxes[box].BoxText += frmIf.txtCondition.Text;
     frmIf = {};
 }
 
-void CompleteWhile(int box) {
-    Boxes[box].BoxText = AskForLine("Enter the condition in Matlab Script", "Quorvane", "");
+void CompleteWhile(int box, const Box* former) {
+    Boxes[box].BoxText =
+        AskForLine("Enter the condition in Matlab Script", "Quorvane", TextOf(former));
 }
 
-void CompletePickup(int box) {
-    Boxes[box].BoxText =
-        AskForLine("Please enter the variable to pick up", "Quorvane", BoxName(box));
+void CompletePickup(int box, const Box* former) {
+    Boxes[box].BoxText = AskForLine("Please enter the variable to pick up", "Quorvane",
+                                    TextOf(former, BoxName(box)));
 }
 
 namespace {
@@ -83,8 +107,12 @@ Form frmSubs_Table() {
                          {"cmdOK", &frmSubs.cmdOK, HideForm<frmSubs>}}};
 }
 
-std::string AskInsertedSubroutine() {
+std::string AskInsertedSubroutine(const Box* former) {
     frmSubs_Load();
+    const auto inserted = former ? ReadFields(former->BoxType, "Insert Subroutine {}") : Fields();
+    if (!inserted.empty()) {
+        frmSubs.available_subs.Text = inserted[0] + " " + std::string(SubroutineWord);
+    }
     desktop->ShowModal("frmSubs");
     auto name = frmSubs.available_subs.Text;
     if (name.ends_with(SubroutineWord)) {
@@ -95,8 +123,10 @@ std::string AskInsertedSubroutine() {
     return "Insert Subroutine " + name;
 }
 
-std::string AskStartedSubroutine() {
-    return AskForLine("What is the subroutine's name ?", "Quorvane", "") + " Subroutine";
+std::string AskStartedSubroutine(const Box* former) {
+    const auto name = former ? ReadFields(former->BoxType, "{} Subroutine") : Fields{""};
+    return AskForLine("What is the subroutine's name ?", "Quorvane", name.empty() ? "" : name[0]) +
+           " Subroutine";
 }
 
 namespace {
@@ -144,8 +174,14 @@ Form frmPause_Table() {
                          {"cmdOK", &frmPause.cmdOK, HideForm<frmPause>}}};
 }
 
-void CompletePause(int box) {
+void CompletePause(int box, const Box* former) {
     LoadForm(frmPause);
+    if (former && former->BoxText.empty()) {
+        frmPause.chkNoNumber.Value = 1;
+        frmPause_chkNoNumber_Click();
+    } else if (former) {
+        frmPause.lblSecs.Text = former->BoxText;
+    }
     desktop->ShowModal("frmPause");
     Boxes[box].BoxText = frmPause.chkNoNumber.Value ? "" : frmPause.lblSecs.Text;
     frmPause = {};
@@ -158,15 +194,17 @@ Form frmUserInput_Table() {
                          {"cmdOK", &frmUserInput.cmdOK, HideForm<frmUserInput>}}};
 }
 
-void CompleteUserInput(int box) {
+void CompleteUserInput(int box, const Box* former) {
     LoadForm(frmUserInput);
+    frmUserInput.txtPrompt.Text = TextOf(former);
     desktop->ShowModal("frmUserInput");
     Boxes[box].BoxText = frmUserInput.txtPrompt.Text;
     frmUserInput = {};
 }
 
-void CompleteComment(int box) {
+void CompleteComment(int box, const Box* former) {
     LoadForm(frmComment);
+    frmComment.txtComment.Text = TextOf(former);
     desktop->ShowModal("frmComment");
     Boxes[box].BoxText = frmComment.txtComment.Text;
     frmComment = {};

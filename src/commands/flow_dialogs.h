@@ -3,14 +3,16 @@
 
 #include <string>
 
+#include "diagram/box_table.h"
 #include "platform/form.h"
 
 namespace quorvane {
 
 /// The dialogs and prompts of the control-flow boxes: loops, branches, pauses, questions,
-/// subroutines, comments. Each Complete routine runs its dialog for the armed box of that number
-/// and packs what was typed into BoxText; nothing is checked for being valid script, and a
-/// cancelled prompt gives an empty text.
+/// subroutines, comments. Each Complete routine runs its dialog for the box of that number and
+/// packs what was typed into BoxText; nothing is checked for being valid script, and a cancelled
+/// prompt gives an empty text. For a box that is changed `former` is what it was, and the dialog
+/// shows that as far as it can be read back.
 
 /// "For": from, increment, until.
 struct ForLoopForm {
@@ -22,7 +24,7 @@ struct ForLoopForm {
 };
 extern ForLoopForm frmForLoop;
 Form frmForLoop_Table();
-void CompleteFor(int box);
+void CompleteFor(int box, const Box* former);
 
 /// "If": the condition, with "else" in front when the second exit is the other branch.
 struct IfForm {
@@ -33,10 +35,10 @@ struct IfForm {
 };
 extern IfForm frmIf;
 Form frmIf_Table();
-void CompleteIf(int box);
+void CompleteIf(int box, const Box* former);
 
-void CompleteWhile(int box);
-void CompletePickup(int box);
+void CompleteWhile(int box, const Box* former);
+void CompletePickup(int box, const Box* former);
 
 /// The subroutines of the box table, one of which is to be inserted.
 struct SubsForm {
@@ -50,8 +52,8 @@ Form frmSubs_Table();
 
 /// Ask for a subroutine before there is a box and give the type of the box: "Insert Subroutine "
 /// and the name; the name and " Subroutine".
-std::string AskInsertedSubroutine();
-std::string AskStartedSubroutine();
+std::string AskInsertedSubroutine(const Box* former);
+std::string AskStartedSubroutine(const Box* former);
 
 /// "Pause": a number of seconds, or a wait for the user.
 struct PauseForm {
@@ -68,7 +70,7 @@ void frmPause_lblSecs_Change();
 void frmPause_spn_Change();
 void frmPause_chkNoNumber_Click();
 Form frmPause_Table();
-void CompletePause(int box);
+void CompletePause(int box, const Box* former);
 
 /// "User Input": the prompt that the script shows.
 struct UserInputForm {
@@ -78,8 +80,8 @@ struct UserInputForm {
 };
 extern UserInputForm frmUserInput;
 Form frmUserInput_Table();
-void CompleteUserInput(int box);
+void CompleteUserInput(int box, const Box* former);
 
-void CompleteComment(int box);
+void CompleteComment(int box, const Box* former);
 
 }  // namespace quorvane

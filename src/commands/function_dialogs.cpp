@@ -4,7 +4,7 @@
 #include <string>
 
 #include "commands/command_browser_door.h"
-#include "diagram/box_table.h"
+#include "commands/read_fields.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 
@@ -58,8 +58,27 @@ Form frmMatlabFunction_Table() {
     return form;
 }
 
-void CompleteMatlabCommand(int box) {
+namespace {
+
+constexpr std::string_view OutputWord = "Output=";
+
+void ShowMatlabCommand(const Box& former) {
+    for (int i = 1; i <= 3; ++i) {
+        frmMatlabFunction.chkInputs[i].Value = former.BoxIn[i] == LockedSlot ? 0 : 1;
+    }
+    for (int i = 1; i <= 5; ++i) {
+        frmMatlabFunction.chkOutputs[i].Value = former.BoxOut[i] == LockedSlot ? 0 : 1;
+    }
+    if (former.BoxText.starts_with(OutputWord)) {
+        frmMatlabFunction.txtFunc.Text = former.BoxText.substr(OutputWord.size());
+    }
+}
+
+}  // namespace
+
+void CompleteMatlabCommand(int box, const Box* former) {
     frmMatlabFunction_Load();
+    if (former) ShowMatlabCommand(*former);
     desktop->ShowModal("frmMatlabFunction");
     const auto slot = [](const CheckBox& tick) {
         return tick.Value ? std::int16_t{0} : LockedSlot;
@@ -67,7 +86,8 @@ void CompleteMatlabCommand(int box) {
     Box& record = Boxes[box];
     for (int i = 1; i <= 3; ++i) record.BoxIn[i] = slot(frmMatlabFunction.chkInputs[i]);
     for (int i = 1; i <= 5; ++i) record.BoxOut[i] = slot(frmMatlabFunction.chkOutputs[i]);
-    record.BoxText = "Output=" + LowerCase(frmMatlabFunction.txtFunc.Text);
+    record.BoxText = OutputWord;
+    record.BoxText += LowerCase(frmMatlabFunction.txtFunc.Text);
     frmMatlabFunction = {};
 }
 
@@ -142,13 +162,41 @@ bool LockUnusedInputs(Box& box) {
 
 }  // namespace
 
-void CompleteFunction(int box) {
+namespace {
+
+/// The statement that opens entry 1 for a formula without inputs is no part of the formula. A text
+/// that was saved and loaded has ";;" for the line end.
+std::string WithoutFirstInput(const std::string& text, const std::string& name) {
+    for (const char* end : {"\r\n", ";;"}) {
+        const auto statement = name + "=Input1;" + end;
+        if (text.starts_with(statement)) return text.substr(statement.size());
+    }
+    return text;
+}
+
+void ShowFunction(const std::string& text, const std::string& name) {
+    const auto formula = WithoutFirstInput(text, name);
+    const auto equals = formula.find('=');
+    if (equals == std::string::npos || !formula.ends_with(';')) return;
+    const auto output = formula.substr(0, equals);
+    const auto cell = ReadFields(output, "{}({},{})");
+    frmFunc.txtoutput.Text = cell.empty() ? output : cell[0];
+    frmFunc.txtRow.Text = cell.empty() ? "1" : cell[1];
+    frmFunc.txtCol.Text = cell.empty() ? "1" : cell[2];
+    frmFunc.chkcell.Value = cell.empty() ? 0 : 1;
+    frmFunc.txtFunc.Text = formula.substr(equals + 1, formula.size() - equals - 2);
+}
+
+}  // namespace
+
+void CompleteFunction(int box, const Box* former) {
     frmFunc_Load();
     // The dialog starts with a cell selected: setting its row and column counts as a change.
     frmFunc.txtRow.Text = "1";
     frmFunc_txtRow_Change();
     frmFunc.txtCol.Text = "1";
     frmFunc_txtCol_Change();
+    if (former) ShowFunction(former->BoxText, BoxName(box));
     desktop->ShowModal("frmFunc");
     Box& record = Boxes[box];
     record.BoxText = "";

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include "diagram/box_table.h"
 #include "platform/checked_array.h"
 #include "platform/form.h"
 
@@ -23,7 +24,7 @@ extern MatlabFunctionForm frmMatlabFunction;
 void frmMatlabFunction_Load();
 void frmMatlabFunction_cmdShowFunc_Click();
 Form frmMatlabFunction_Table();
-void CompleteMatlabCommand(int box);
+void CompleteMatlabCommand(int box, const Box* former);
 
 /// "Compute Function": a formula over Input1 to Input3, written to an output or to one cell of it.
 struct FuncForm {
@@ -47,6 +48,6 @@ void frmFunc_cmdMatlab_Click();
 /// Warns when a cell lacks its row or column, and hides anyway.
 void frmFunc_cmdOK_Click();
 Form frmFunc_Table();
-void CompleteFunction(int box);
+void CompleteFunction(int box, const Box* former);
 
 }  // namespace quorvane

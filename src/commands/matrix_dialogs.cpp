@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "commands/matrix_dialogs.h"
 
-#include "diagram/box_table.h"
+#include "commands/read_fields.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 
@@ -20,8 +20,22 @@ Form frmMakeVector_Table() {
                          {"cmdOK", &frmMakeVector.cmdOK, HideForm<frmMakeVector>}}};
 }
 
-void CompleteMakeVector(int box) {
+namespace {
+
+using Fields = std::vector<std::string>;
+
+void ShowVector(const Fields& fields) {
+    if (fields.empty()) return;
+    frmMakeVector.txtMin.Text = fields[0];
+    frmMakeVector.txtStep.Text = fields[1];
+    frmMakeVector.txtMax.Text = fields[2];
+}
+
+}  // namespace
+
+void CompleteMakeVector(int box, const Box* former) {
     LoadForm(frmMakeVector);
+    if (former) ShowVector(ReadFields(former->BoxText, "[{}:{}:{}];"));
     desktop->ShowModal("frmMakeVector");
     Boxes[box].BoxText = "[" + frmMakeVector.txtMin.Text + ":" + frmMakeVector.txtStep.Text + ":" +
                          frmMakeVector.txtMax.Text + "];";
@@ -67,8 +81,26 @@ Form frmMakeMat_Table() {
     return form;
 }
 
-void CompleteMakeMat(int box) {
+namespace {
+
+/// Size and contents; the contents without a button of their own select Option1.
+void ShowMatrix(const std::string& text) {
+    for (const auto& row : contents) {
+        const auto fields = ReadFields(text, std::string(row.Word) + "({},{})");
+        if (fields.empty()) continue;
+        frmMakeMat.txtRows.Text = fields[0];
+        frmMakeMat.txtCols.Text = fields[1];
+        frmMakeMat.txtOpn = row.Index;
+        for (int i = 0; i <= 3; ++i) frmMakeMat.opn[i].Value = row.Index == NumberText(i);
+        frmMakeMat.Option1.Value = *row.Caption == '\0';
+    }
+}
+
+}  // namespace
+
+void CompleteMakeMat(int box, const Box* former) {
     frmMakeMat_Load();
+    if (former) ShowMatrix(former->BoxText);
     desktop->ShowModal("frmMakeMat");
     auto& text = Boxes[box].BoxText;
     for (const auto& row : contents) {
@@ -98,8 +130,13 @@ Form frmSplit_Table() {
                          {"cmdOK", &frmSplit.cmdOK, HideForm<frmSplit>}}};
 }
 
-void CompleteSplit(int box) {
+void CompleteSplit(int box, const Box* former) {
     frmSplit_Load();
+    if (const auto fields = former ? ReadFields(former->BoxText, "Col{}:{}") : Fields();
+        !fields.empty()) {
+        frmSplit.txtFrom.Text = fields[0];
+        frmSplit.txtTo.Text = fields[1];
+    }
     desktop->ShowModal("frmSplit");
     // A selected option button reads -1 and "Row" is compared with 1, so that every split is by
     // columns. Existing diagrams rely on it.

@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "diagram/box_table.h"
 #include "platform/checked_array.h"
 #include "platform/form.h"
 
@@ -21,7 +22,7 @@ struct MakeVectorForm {
 };
 extern MakeVectorForm frmMakeVector;
 Form frmMakeVector_Table();
-void CompleteMakeVector(int box);
+void CompleteMakeVector(int box, const Box* former);
 
 /// "Matrix Make Input": the size of a matrix and what fills it. Option1 stands outside the array,
 /// so that taking it leaves the index clicked before.
@@ -38,7 +39,7 @@ extern MakeMatForm frmMakeMat;
 void frmMakeMat_Load();
 void frmMakeMat_opn_Click(int Index);
 Form frmMakeMat_Table();
-void CompleteMakeMat(int box);
+void CompleteMakeMat(int box, const Box* former);
 
 /// "Split": a range of rows or columns.
 struct SplitForm {
@@ -53,6 +54,6 @@ extern SplitForm frmSplit;
 void frmSplit_Load();
 void frmSplit_txtTo_Change();
 Form frmSplit_Table();
-void CompleteSplit(int box);
+void CompleteSplit(int box, const Box* former);
 
 }  // namespace quorvane

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 
+#include "commands/read_fields.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 
@@ -14,6 +15,8 @@ namespace {
 
 /// The option of frmConst that takes its constant from the field.
 constexpr std::string_view ConstantIndex = "5";
+/// Where the text of an option takes in the field.
+constexpr std::string_view FieldHole = "{field}";
 
 int RowOf(const OptionList& list, std::string_view index) {
     int row = 0;
@@ -60,13 +63,12 @@ void WriteEntries(const OptionList& list, const ListOption& option, Box& box) {
 
 void WriteText(const OptionList& list, const ListOption& option, Box& box) {
     if (!option.BoxText) return;
-    constexpr std::string_view hole = "{field}";
     std::string text = option.BoxText;
-    const auto place = text.find(hole);
+    const auto place = text.find(FieldHole);
     if (place != std::string::npos) {
         const auto field = FieldText(list.Field);
         if (field.empty() && list.Field.SkipEmpty) return;
-        text.replace(place, hole.size(), field);
+        text.replace(place, FieldHole.size(), field);
     }
     box.BoxText = text;
 }
@@ -135,11 +137,43 @@ Form OptionList_Table(const OptionList& list) {
     return form;
 }
 
-bool RunOptionList(const OptionList& list, Box& box) {
+namespace {
+
+/// The field's text of a box that this option has made; false for another option's box.
+bool ReadOption(const ListOption& option, const Box& box, std::string& field) {
+    if (!option.BoxType.empty() && option.BoxType != box.BoxType) return false;
+    std::string pattern = option.BoxText ? option.BoxText : "";
+    const auto hole = pattern.find(FieldHole);
+    if (hole == std::string::npos) return pattern == box.BoxText;
+    pattern.replace(hole, FieldHole.size(), "{}");
+    const auto fields = ReadFields(box.BoxText, pattern);
+    if (!fields.empty()) field = fields[0];
+    return !fields.empty();
+}
+
+/// Selects the option that made the box, with what stood in the field.
+void ShowOption(const OptionList& list, const Box& former) {
+    int row = 0;
+    for (const auto& option : list.Options) {
+        std::string field = frmOptionList.Field.Text;
+        if (ReadOption(option, former, field)) {
+            frmOptionList_Option_Click(row);
+            frmOptionList.Field.Text = field;
+            frmOptionList.chkElement.Value = former.BoxText == "." ? 1 : 0;
+            return;
+        }
+        ++row;
+    }
+}
+
+}  // namespace
+
+bool RunOptionList(const OptionList& list, Box& box, const Box* former) {
     for (int i = 1; i <= 3; ++i) {
         if (!IsOpen(list.Entries, i)) box.BoxIn[i] = LockedSlot;
     }
     frmOptionList_Load(list);
+    if (former) ShowOption(list, *former);
     desktop->ShowModal(list.Dialog);
     const auto* option = PickedOption(list);
     if (option) {

@@ -34,7 +34,8 @@ void frmOptionList_cmdOK_Click();
 Form OptionList_Table(const OptionList& list);
 
 /// Runs the dialog of a list for a box and writes what the picked option says; false when none was
-/// picked, which only the arithmetic operators allow.
-bool RunOptionList(const OptionList& list, Box& box);
+/// picked, which only the arithmetic operators allow. For a box that is changed `former` is what it
+/// was, and its option stands selected.
+bool RunOptionList(const OptionList& list, Box& box, const Box* former);
 
 }  // namespace quorvane

@@ -4,7 +4,7 @@
 #include <algorithm>
 
 #include "catalogue/icon_table.h"
-#include "diagram/box_table.h"
+#include "commands/plot_reading.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -356,8 +356,9 @@ Form frmPlot_Table() {
     return form;
 }
 
-void CompletePlot(int box) {
+void CompletePlot(int box, const Box* former) {
     frmPlot_Load();
+    if (former) ShowPlot(*former);
     desktop->ShowModal("frmPlot");
     Box& record = Boxes[box];
     record.BoxText = frmPlot.commands;

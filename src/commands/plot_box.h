@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "diagram/box_table.h"
 #include "platform/checked_array.h"
 #include "platform/form.h"
 
@@ -75,6 +76,6 @@ Form frmPlot_Table();
 std::string LineStyle(int line);
 
 /// Runs the dialog for a "Plot Output" box: its text, and a lock on each entry without a mark.
-void CompletePlot(int box);
+void CompletePlot(int box, const Box* former);
 
 }  // namespace quorvane

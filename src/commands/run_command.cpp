@@ -23,8 +23,10 @@ using enum IconSource;
 /// What a command asks that has more than an option list.
 struct Questions {
     std::string_view Control;
-    void (*Complete)(int box) = nullptr;  ///< Runs the dialog for the armed box of this number
-    std::string (*AskType)() = nullptr;   ///< Asks for the type before there is a box
+    /// Runs the dialog for the box of this number.
+    void (*Complete)(int box, const Box* former) = nullptr;
+    /// Asks for the type before there is a box.
+    std::string (*AskType)(const Box* former) = nullptr;
 };
 constexpr Questions questionsOfCommands[] = {
     {"mnuInputUser", CompleteUserInput},
@@ -73,29 +75,39 @@ void SetBoxPicture(const Worksheet& sheet, int box, const std::string& key) {
 
 }  // namespace
 
+std::string TypeForBox(const BoxCommand& command, const Box* former) {
+    const auto questions = QuestionsOf(command.Control);
+    return questions.AskType ? questions.AskType(former) : std::string(command.BoxType);
+}
+
+std::string CompleteBox(const Worksheet& sheet, const BoxCommand& command, int number,
+                        const std::string& type, const Box* former) {
+    Box& box = Boxes[number];
+    if (!type.empty()) box.BoxType = type;
+    if (command.BoxText) box.BoxText = command.BoxText;
+    Lock(command, box);
+    bool picked = true;
+    if (const auto* list = FindOptionList(command.Dialog)) {
+        picked = RunOptionList(*list, box, former);
+    } else if (const auto complete = QuestionsOf(command.Control).Complete) {
+        complete(number, former);
+    }
+    if (!command.Dialog.empty()) {
+        Attempt([&] { desktop->FocusWorksheet(DocumentNumber(sheet)); });
+    }
+    return picked ? IconKey(command, box) : "";
+}
+
 void RunBoxCommand(Worksheet& sheet, std::string_view control) {
     const auto* command = FindBoxCommand(control);
     if (!command) return;
-    const auto questions = QuestionsOf(control);
-    const auto type = questions.AskType ? questions.AskType() : std::string(command->BoxType);
+    const auto type = TypeForBox(*command, nullptr);
     AddBox(sheet);
     const int number = NextBox - 1;
     // With a pending arrow and no box at all, arming takes back a record that isn't there.
     if (number < 0) return;
-    Box& box = Boxes[number];
-    if (!type.empty()) box.BoxType = type;
-    if (command->BoxText) box.BoxText = command->BoxText;
-    Lock(*command, box);
-    bool picked = true;
-    if (const auto* list = FindOptionList(command->Dialog)) {
-        picked = RunOptionList(*list, box);
-    } else if (questions.Complete) {
-        questions.Complete(number);
-    }
-    if (!command->Dialog.empty()) {
-        Attempt([&] { desktop->FocusWorksheet(DocumentNumber(sheet)); });
-    }
-    if (picked) SetBoxPicture(sheet, number, IconKey(*command, box));
+    const auto key = CompleteBox(sheet, *command, number, type, nullptr);
+    if (!key.empty()) SetBoxPicture(sheet, number, key);
 }
 
 void cmdEventFire_Click(Worksheet& sheet) {

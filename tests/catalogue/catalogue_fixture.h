@@ -7,6 +7,7 @@
 #include <variant>
 
 #include "catalogue/box_commands.h"
+#include "commands/change_box.h"
 #include "commands/run_command.h"
 #include "platform/numbers.h"
 #include "shell/forms.h"
@@ -78,7 +79,23 @@ struct CatalogueTest : DiagramTest {
         for (const auto& command : boxCommands) {
             if (command.Dialog == dialog) RunBoxCommand(Sheet(), command.Control);
         }
+
         return Boxes[NextBox - 1];
+    }
+    /// The dialog of a box, opened for a change and left by OK alone, leaves the box as it was,
+    /// also when it was saved and loaded.
+    void Reopen(const std::string& dialog) {
+        screen.Forms[dialog] = [=] { Play(dialog, dialog == "frmForLoop" ? "cmd" : "cmdOK"); };
+        Box& box = Boxes[NextBox - 1];
+        for (const bool loaded : {false, true}) {
+            auto& text = box.BoxText;
+            for (auto at = text.find("\r\n"); loaded && at != text.npos; at = text.find("\r\n")) {
+                text.replace(at, 2, ";;");
+            }
+            const Box before = box;
+            EXPECT_TRUE(ChangeBox(Sheet(), NextBox - 1)) << dialog;
+            EXPECT_TRUE(box == before) << before.BoxText << " became " << box.BoxText;
+        }
     }
     /// A box as the tables write it: type (and mark, which no command writes), text, open entries,
     /// open exits.

@@ -50,6 +50,7 @@ TEST_F(Dialogs, EachOptionMakesItsBox) {
             EXPECT_TRUE(picture != FallbackCell || row[0] == "wavwrite") << picture;
             EXPECT_TRUE(IconCell(row[0]) == picture || IconCell(text) == picture ||
                         text.starts_with("Diag"));
+            Reopen(std::string(list.Dialog));
         }
     }
 }
@@ -62,6 +63,7 @@ TEST_F(Dialogs, StepsArePackedIntoTheBox) {
         EXPECT_FALSE(Stands);
         EXPECT_EQ(Row(box), RowAt(row, 2));
         EXPECT_EQ(TakeTold(), row[6]);
+        if (!box.BoxType.empty()) Reopen(row[0]);
     }
 }
 

@@ -26,6 +26,7 @@ TEST_F(PlotBox, EachTypeComposesItsCommand) {
         EXPECT_EQ(TakeTold() + box.BoxText, row[2] + (Stands ? "" : "\r\n"));
         EXPECT_EQ(Open(box.BoxIn), std::string(marked.begin(), marked.end()));
         EXPECT_EQ(Open(box.BoxOut), "");
+        if (!Stands) Reopen("frmPlot");
     }
 }
 
