@@ -70,31 +70,11 @@ void AnswerAnyhow(QDialog& dialog) {
 }  // namespace
 
 /// A user without a plan edits; whatever comes of it, the records and the screen agree.
-class EditingTest : public QObject {
-    Q_OBJECT
-
-private slots:
-    void records_and_screen_agree_after_random_editing() {
-        bool isNumber = false;
-        const auto seed = qEnvironmentVariableIntValue("QUORVANE_SEED", &isNumber);
-        const auto wanted = qEnvironmentVariableIntValue("QUORVANE_OPERATIONS");
-        chance.seed(static_cast<unsigned>(isNumber ? seed : 1));
-        program = std::make_unique<Program>();
-        program->Otherwise = AnswerAnyhow;
-        for (int i = 0; i < (wanted > 0 ? wanted : 250); ++i) {
-            const auto operation = Operate();
-            const auto fault = Disagreement();
-            QVERIFY2(fault.isEmpty(),
-                     qPrintable(QString("%1, operation %2: %3").arg(operation).arg(i).arg(fault)));
-        }
-        program.reset();
-    }
-
-private:
+struct EditingWindow : WindowTest {
     QList<int> OpenDocuments() const {
         QList<int> open;
         for (int i = 1; i <= Documents.UpperBound(); ++i) {
-            if (program->Window(i)) open.append(i);
+            if (Window(i)) open.append(i);
         }
         return open;
     }
@@ -102,10 +82,10 @@ private:
     /// Does one thing, on one of the worksheets, and says what.
     QString Operate() {
         const auto open = OpenDocuments();
-        if (open.empty()) return program->Choose("mnuFileNew"), "new";
+        if (open.empty()) return Choose("mnuFileNew"), "new";
         const int document = open[Any(static_cast<int>(open.size()))];
-        program->Frame().Area()->setActiveSubWindow(program->Window(document));
-        if (!program->Surface(document)) return "minimised";
+        Frame().Area()->setActiveSubWindow(Window(document));
+        if (!Surface(document)) return "minimised";
         const QPoint at(Any(500), Any(300));
         switch (Any(16)) {
             case 0:
@@ -115,15 +95,15 @@ private:
             case 4:
             case 5:
             case 6: return JoinBoxes(document);
-            case 7: return program->Band(at, {Any(500), Any(300)}, document), "band";
+            case 7: return Band(at, {Any(500), Any(300)}, document), "band";
             case 8: return MoveOrCopy(at, document);
-            case 9: return program->Choose("mnuEditClear"), "clear";
+            case 9: return Choose("mnuEditClear"), "clear";
             case 10: return Press(document);
             case 11: return Scroll(document);
             case 12: return OneIn(3) ? OpenOrClose(open.size()) : "nothing";
-            case 13: return program->Choose("mnuFileSaveFile"), "save";
-            case 14: return program->Choose(OneIn(4) ? "mnuEditLineColor" : "mnuExeDDE"), "run";
-            default: return program->Choose("mnuEditRedraw"), "redraw";
+            case 13: return Choose("mnuFileSaveFile"), "save";
+            case 14: return Choose(OneIn(4) ? "mnuEditLineColor" : "mnuExeDDE"), "run";
+            default: return Choose("mnuEditRedraw"), "redraw";
         }
     }
 
@@ -135,16 +115,16 @@ private:
         const auto control = QString::fromUtf8(command.Control.data(),
                                                static_cast<qsizetype>(command.Control.size()));
         if (!MakesBox(command) || NextBox > MaxBoxes) return "nothing";
-        program->Choose(control);
-        if (OneIn(8)) program->Choose("mnuTrigSin");
-        if (EditMode == 2) program->Click(at, document);
+        Choose(control);
+        if (OneIn(8)) Choose("mnuTrigSin");
+        if (EditMode == 2) Click(at, document);
         return control;
     }
 
     QList<QWidget*> BoxesOf(int document) const {
         QList<QWidget*> boxes;
         for (int i = 1; i < NextBox; ++i) {
-            if (auto* box = program->Box(i, document)) boxes.append(box);
+            if (auto* box = Box(i, document)) boxes.append(box);
         }
         return boxes;
     }
@@ -152,7 +132,7 @@ private:
     QString JoinBoxes(int document) {
         const auto boxes = BoxesOf(document);
         if (boxes.empty()) return "no boxes";
-        program->Choose("mnuArrow");
+        Choose("mnuArrow");
         for (int i = 0; i < 2; ++i) {
             QTest::mouseClick(boxes[Any(static_cast<int>(boxes.size()))], Qt::LeftButton);
         }
@@ -164,8 +144,8 @@ private:
         const int selected = SelectedBoxes.UpperBound() > 0 ? SelectedBoxes[1] : 0;
         const bool copies = OneIn(2) && NextBox + SelectedBoxes.UpperBound() <= MaxBoxes;
         if (!copies && selected > 0 && Boxes[selected].BoxDocument != document) return "elsewhere";
-        program->Choose(copies ? "mnueditcopy" : "mnuEditMove");
-        program->Click(at, document);
+        Choose(copies ? "mnueditcopy" : "mnuEditMove");
+        Click(at, document);
         return copies ? "copy" : "move";
     }
 
@@ -179,15 +159,15 @@ private:
     }
 
     QString Scroll(int document) {
-        auto* bar = static_cast<QScrollBar*>(program->Part(OneIn(2) ? "scrV" : "scrH", document));
+        auto* bar = static_cast<QScrollBar*>(Part(OneIn(2) ? "scrV" : "scrH", document));
         bar->setValue(OneIn(2) ? 0 : Any(3000));
         return "scroll";
     }
 
     QString OpenOrClose(qsizetype open) {
-        if (open < 4 && OneIn(2)) return program->Choose("mnuFileNew"), "new";
-        if (OneIn(2)) return program->Choose("mnuFileLoad"), "open";
-        return program->Choose("mnuFileClose"), "close";
+        if (open < 4 && OneIn(2)) return Choose("mnuFileNew"), "new";
+        if (OneIn(2)) return Choose("mnuFileLoad"), "open";
+        return Choose("mnuFileClose"), "close";
     }
 
     /// What doesn't hold of the table and the screen, "" where all does.
@@ -201,17 +181,17 @@ private:
     }
 
     static QString FaultOfFree(int number) {
-        const Box& box = Boxes[number];
-        Box cleared;
+        const auto& box = Boxes[number];
+        quorvane::Box cleared;
         cleared.BoxLeft = box.BoxLeft;
         cleared.BoxTop = box.BoxTop;
         return box == cleared ? "" : "is free, but not cleared";
     }
 
     QString FaultOf(int number) const {
-        const Box& box = Boxes[number];
+        const auto& box = Boxes[number];
         const bool armed = EditMode == 2 && number == NextBox - 1;
-        auto* window = program->Window(box.BoxDocument);
+        auto* window = Window(box.BoxDocument);
         if (!window) return "lies in no document";
         if (!Documents[box.BoxDocument]->box.Has(number)) return "has no control";
         const auto* shown = window->findChild<QWidget*>(QString("box(%1)").arg(number),
@@ -225,11 +205,18 @@ private:
         }
         return "";
     }
-
-    std::unique_ptr<Program> program;
 };
 
-}  // namespace quorvane::testing
+TEST_F(EditingWindow, RecordsAndScreenAgreeAfterRandomEditing) {
+    bool isNumber = false;
+    const auto seed = qEnvironmentVariableIntValue("QUORVANE_SEED", &isNumber);
+    const auto wanted = qEnvironmentVariableIntValue("QUORVANE_OPERATIONS");
+    chance.seed(static_cast<unsigned>(isNumber ? seed : 1));
+    Otherwise = AnswerAnyhow;
+    for (int i = 0; i < (wanted > 0 ? wanted : 250); ++i) {
+        const auto operation = Operate();
+        ASSERT_EQ(Disagreement(), "") << operation.toStdString() << ", operation " << i;
+    }
+}
 
-QTEST_MAIN(quorvane::testing::EditingTest)
-#include "editing_test.moc"
+}  // namespace quorvane::testing

@@ -2,15 +2,17 @@
 #include "window/window_fixture.h"
 
 #include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
 #include "qt/sheet/worksheet_view.h"
 #include "shell/application.h"
+#include "shell/menus.h"
 #include "shell/start_up.h"
 
 namespace quorvane::testing {
 
 namespace {
 
-void Fail(const QString& text) { QTest::qFail(qPrintable(text), __FILE__, __LINE__); }
+void Fail(const QString& text) { ADD_FAILURE() << text.toStdString(); }
 
 QWidget* Shown(const QWidget* parent, const QString& name) {
     const auto found = parent ? parent->findChildren<QWidget*>(name) : QList<QWidget*>();
@@ -114,26 +116,53 @@ Hand Play(const QString& steps) {
     };
 }
 
-Program::Program() {
+WindowTest::WindowTest() : StepPlayer(folder) {
     QCoreApplication::setOrganizationName("Quorvane");
     QCoreApplication::setApplicationName("Quorvane");
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, File("store"));
-    std::filesystem::current_path(folder_.Path);
-    quorvane::desktop = &desktop_;
-    Open([] {});
+    for (const auto& row : documentMenu) {
+        words[std::string(row.Control)] = Step([this, &row](A) { Choose(ToScreen(row.Control)); });
+    }
+    words["mnuFileOpen"] = Step([this](A) { Choose("mnuFileOpen"); });
+    for (const auto& some : {MouseAndKeys(), Looks(), Frames(), Dialogs()}) Know(some);
     Watch();
 }
 
-Program::~Program() {
+WindowTest::~WindowTest() {
+    End();
+    std::filesystem::current_path(before_);
+}
+
+void WindowTest::End() {
     if (!Answers.empty()) Fail("Somebody was not asked");
+    Answers.clear();
+    Asked.clear();
     RefreshScreen = [] {};
     frame_.reset();
     ResetApplication();
     quorvane::desktop = nullptr;
-    std::filesystem::current_path(before_);
 }
 
-void Program::Open(void (*start)()) {
+void WindowTest::BeginAnew() {
+    End();
+    std::filesystem::current_path(folder.Path);
+    QSettings().clear();
+    for (const auto& name : NamesIn(".")) std::filesystem::remove_all(name);
+    quorvane::desktop = &desktop_;
+    QCursor::setPos(0, 0);
+    Open([] {});
+}
+
+void WindowTest::AtForm(const std::string& form, std::function<void()> steps) {
+    Answers.emplace_back([=](QDialog& dialog) {
+        EXPECT_EQ(ToCore(Question(dialog).section(": ", 0, 0)), form);
+        dialog.activateWindow();  // Off-screen it doesn't come to the front by itself.
+        EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isActiveWindow(); }));
+        steps();
+    });
+}
+
+void WindowTest::Open(void (*start)()) {
     frame_.reset();
     ResetApplication();
     frame_ = std::make_unique<FrameView>();
@@ -144,15 +173,15 @@ void Program::Open(void (*start)()) {
     if (!QTest::qWaitForWindowActive(frame_.get())) Fail("The frame doesn't come to the screen");
 }
 
-void Program::Start() { Open(StartProgram); }
+void WindowTest::Start() { Open(StartProgram); }
 
-QString Program::File(const QString& name) const {
-    return QString::fromStdString(folder_ / name.toStdString());
+QString WindowTest::File(const QString& name) const {
+    return QString::fromStdString(folder / name.toStdString());
 }
 
 /// Looks for a dialog again and again, also while another one is being answered.
-void Program::Watch() {
-    QTimer::singleShot(0, this, [this] {
+void WindowTest::Watch() {
+    QTimer::singleShot(0, &watcher_, [this] {
         Watch();
         auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
         if (!dialog || !dialog->isVisible() || dialog->property("answered").toBool()) return;
@@ -166,73 +195,66 @@ void Program::Watch() {
         const auto answer = Answers.front();
         Answers.pop_front();
         answer(*dialog);
-        if (QTest::currentTestFailed()) dialog->done(QDialog::Rejected);
+        if (HasFailure() && dialog->isVisible()) dialog->done(QDialog::Rejected);
     });
 }
 
-QMdiSubWindow* Program::Window(int document) const {
+QMdiSubWindow* WindowTest::Window(int document) const {
     for (auto* window : frame_->Area()->subWindowList()) {
         if (static_cast<WorksheetView*>(window->widget())->Document() == document) return window;
     }
     return nullptr;
 }
 
-QWidget* Program::Surface(int document) const { return Part("surface", document); }
+QWidget* WindowTest::Surface(int document) const { return Part("surface", document); }
 
-QWidget* Program::Part(const QString& name, int document) const {
+QWidget* WindowTest::Part(const QString& name, int document) const {
     return Shown(Window(document), name);
 }
 
-QWidget* Program::Box(int number, int document) const {
+QWidget* WindowTest::Box(int number, int document) const {
     return Part(QString("box(%1)").arg(number), document);
 }
 
-QStringList Program::BoxNames(int document) const {
-    QStringList names;
-    for (int i = 1; i < 20; ++i) {
-        if (const auto* box = Box(i, document)) names.append(box->accessibleName());
-    }
-    return names;
-}
-
-QAction* Program::Entry(const QString& control) const {
+QAction* WindowTest::Entry(const QString& control) const {
     return FindEntry(frame_->menuBar()->actions(), control);
 }
 
-void Program::Choose(const QString& control) {
+void WindowTest::Choose(const QString& control) {
     auto* entry = Entry(control);
     if (!entry || !entry->isEnabled()) return Fail("No menu entry to choose: " + control);
     entry->trigger();
 }
 
-void Program::Type(int key, Qt::KeyboardModifiers modifiers) {
+void WindowTest::Type(int key, Qt::KeyboardModifiers modifiers) {
     // Off-screen the end of a dialog leaves no window active.
     if (!QApplication::activeWindow()) {
         frame_->activateWindow();
         if (!QTest::qWaitForWindowActive(frame_.get())) Fail("The frame doesn't take the keys");
     }
     auto* target = QApplication::activePopupWidget();
+    if (auto* dialog = QApplication::activeModalWidget()) target = dialog->focusWidget();
     if (!target) target = QApplication::focusWidget();
     if (!target) target = frame_.get();
     QTest::keyClick(target, static_cast<Qt::Key>(key), modifiers);
 }
 
-void Program::Click(QPoint at, int document) {
+void WindowTest::Click(QPoint at, int document) {
     QTest::mouseClick(Surface(document), Qt::LeftButton, {}, at);
 }
 
-void Program::Place(const QString& control, QPoint at, int document) {
+void WindowTest::Place(const QString& control, QPoint at, int document) {
     Choose(control);
     Click(at, document);
 }
 
-void Program::Join(int source, int destination, int document) {
+void WindowTest::Join(int source, int destination, int document) {
     Choose("mnuArrow");
     QTest::mouseClick(Box(source, document), Qt::LeftButton);
     QTest::mouseClick(Box(destination, document), Qt::LeftButton);
 }
 
-void Program::Band(QPoint from, QPoint to, int document) {
+void WindowTest::Band(QPoint from, QPoint to, int document) {
     auto* surface = Surface(document);
     QTest::mousePress(surface, Qt::LeftButton, {}, from);
     QTest::mouseMove(surface, from);
@@ -240,7 +262,7 @@ void Program::Band(QPoint from, QPoint to, int document) {
     QTest::mouseRelease(surface, Qt::LeftButton, {}, to);
 }
 
-void Program::Drag(QWidget* source, QWidget* target, QPoint at) {
+void WindowTest::Drag(QWidget* source, QWidget* target, QPoint at) {
     QTest::mousePress(source, Qt::LeftButton, {}, {16, 16});
     QTest::mouseMove(source, {19, 19});
     if (source->findChild<QDrag*>()) Fail("A hand that trembles drags");
@@ -255,17 +277,13 @@ void Program::Drag(QWidget* source, QWidget* target, QPoint at) {
     QTest::mouseRelease(source, Qt::LeftButton);
 }
 
-QImage Program::Screen(QWidget* widget) const {
+QImage WindowTest::Screen(QWidget* widget) const {
     QCoreApplication::processEvents();
     const auto all = frame_->screen()->grabWindow(frame_->winId()).toImage();
     const auto ratio = all.devicePixelRatio();
     return all.copy(
         QRectF(widget->mapTo(frame_.get(), QPointF()) * ratio, QSizeF(widget->size()) * ratio)
             .toRect());
-}
-
-double Program::Colored(int row, QPair<int, int> columns, const QColor& color, int document) const {
-    return ColoredIn(Screen(Surface(document)), row, columns, color);
 }
 
 }  // namespace quorvane::testing

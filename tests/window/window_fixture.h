@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <QtTest>
 #include <QtWidgets>
 #include <deque>
@@ -10,6 +12,10 @@
 #include "files/work_folder.h"
 #include "qt/desktop/qt_desktop.h"
 #include "qt/frame/frame_view.h"
+#include "support/step_player.h"
+
+/// How a failure shows a text.
+inline void PrintTo(const QString& text, std::ostream* out) { *out << text.toStdString(); }
 
 namespace quorvane::testing {
 
@@ -37,20 +43,30 @@ struct HastyDesktop : QtDesktop {
     int ClockSeconds() override { return Seconds += 3; }
 };
 
+struct InWorkFolder : ::testing::Test {
+    WorkFolder folder;
+};
+
 /// The program on an off-screen desktop, and the user's hands. It stands in an empty folder of its
 /// own, and its per-user store is empty. Each modal dialog takes the next of Answers; one for which
 /// there is none fails the test, and so does an answer that is left. Places are pixels of a
 /// worksheet's surface.
-class Program : public QObject {
-public:
-    Program();
-    ~Program() override;
+///
+/// Tables know the entries of the menus ("mnuFileNew") and the words of window_steps.cpp.
+class WindowTest : public InWorkFolder, protected StepPlayer {
+protected:
+    WindowTest();
+    ~WindowTest() override;
+    void SetUp() override { BeginAnew(); }
+    /// Begins with a bare frame in an empty folder.
+    void BeginAnew() override;
+    void AtForm(const std::string& form, std::function<void()> steps) override;
 
     std::deque<Hand> Answers;
     Hand Otherwise;     ///< What answers when Answers is empty, if anything does
     QStringList Asked;  ///< Of each dialog its name or title, ": ", and its message or prompt
 
-    /// Starts the program anew from the current folder. Before that there is a bare frame.
+    /// Starts the program anew from the current folder.
     void Start();
     FrameView& Frame() { return *frame_; }
     QMdiSubWindow* Window(int document = 1) const;
@@ -58,8 +74,6 @@ public:
     /// A named part of a worksheet, nullptr when it isn't there or is hidden.
     QWidget* Part(const QString& name, int document = 1) const;
     QWidget* Box(int number, int document = 1) const;
-    /// What the boxes that show are called, by number: "box1 Sin".
-    QStringList BoxNames(int document = 1) const;
     /// The entry of the menu bar that shows, nullptr when it isn't there or is hidden.
     QAction* Entry(const QString& control) const;
     /// The path of a file in the program's folder.
@@ -80,17 +94,27 @@ public:
     /// What stands on the screen where a widget lies, in device pixels. At a device pixel ratio of
     /// 2 that is known of the left and upper half of the frame.
     QImage Screen(QWidget* widget) const;
-    /// How many pixels of this colour a row of a worksheet has, between two columns.
-    double Colored(int row, QPair<int, int> columns, const QColor& color, int document = 1) const;
 
 private:
     void Open(void (*start)());
+    void End();
     void Watch();
+    /// What shows under this name: in the dialog that stands, else in a worksheet or the frame.
+    QWidget* Seek(const QString& name, int document = 1) const;
+    template <class Widget = QWidget>
+    Widget* Find(A a) const;
+    Words MouseAndKeys();
+    Words Looks();
+    Words Frames();
+    Words Dialogs();
+    QWidget* WindowOf(A a);
+    Hand AnswerOf(const QString& text) const;
 
     const std::filesystem::path before_ = std::filesystem::current_path();
-    WorkFolder folder_;
     HastyDesktop desktop_;
     std::unique_ptr<FrameView> frame_;
+    QObject watcher_;
+    QImage kept_;  ///< Remembered by a table
 };
 
 }  // namespace quorvane::testing
