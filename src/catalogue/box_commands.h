@@ -21,8 +21,9 @@ constexpr int ByDialog = 3;
 constexpr int NoBox = -1;
 
 /// An entry of the menu "Functions". Most of them make a box, and their row is all that there is to
-/// know of it: where it stands in the menu, what the new record holds, its picture, its dialog, the
-/// keys by which the toolbox calls it, its page in the manual and, for a plain type, its script.
+/// know about it: where it stands in the menu, what the new record holds, its picture, its dialog,
+/// the keys by which the toolbox calls it, its page in the manual and, for a plain type, its
+/// script.
 struct BoxCommand {
     int Depth;                      ///< In the menu: 1 for an entry of "Functions" itself
     std::string_view Control;       ///< The entry's name
@@ -41,7 +42,7 @@ struct BoxCommand {
     std::string_view Line = "";
 };
 
-/// The rows of the menu below "Multiple Arrows", in order.
+/// The entries of the menu below "Multiple Arrows", in order.
 extern const std::span<const BoxCommand> boxCommands;
 
 inline bool MakesBox(const BoxCommand& row) { return row.Entries != NoBox; }

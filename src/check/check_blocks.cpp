@@ -8,7 +8,7 @@ namespace quorvane {
 
 namespace {
 
-/// The boxes behind these exits.
+/// The boxes that these exits lead to.
 std::vector<int> Peers(const Box& box, ExitRange exits) {
     std::vector<int> peers;
     for (int exit = exits.First; exit <= exits.Last; ++exit) {
@@ -48,7 +48,7 @@ std::vector<int> Blocks::Behind(int number) {
     return behind;
 }
 
-/// The boxes that stand on one level with those of `waiting` or behind them.
+/// The boxes of `waiting` and those that come after them on the same level.
 std::vector<int> Blocks::Level(std::vector<int> waiting) {
     std::vector<int> level;
     BoxSet seen;

@@ -33,8 +33,8 @@ public:
     /// The boxes that may close the block which `box` opens, as far as it begins at these exits.
     /// Those that close a block inside of it don't count.
     std::vector<int> Closers(int box, ExitRange exits);
-    /// The boxes that stand on one level behind these exits of a box, those of inner blocks left
-    /// out.
+    /// The boxes on the level to which these exits of a box lead, without those inside inner
+    /// blocks.
     std::vector<int> Inside(int box, ExitRange exits);
 
 private:
@@ -48,8 +48,8 @@ private:
     Block Inspect(int number, ExitRange exits);
     std::vector<int> Level(std::vector<int> waiting);
     std::vector<int> Behind(int number);
-    /// What was found out already; empty for a block that is being looked at, so that a ring of
-    /// blocks comes to an end.
+    /// The blocks inspected so far; empty for one that is being inspected, so that a ring of blocks
+    /// ends.
     std::map<int, Block> known_;
 };
 

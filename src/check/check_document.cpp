@@ -33,7 +33,7 @@ void CheckOne(Check& check, int number) {
     CheckSubroutine(check, number);
 }
 
-/// Why a box can't be written whose feeders are all done.
+/// Why a box can't be written although its feeders are all done.
 std::string OwnReason(const Box& box) {
     if (box.BoxText == "Deleted") return "a box with the text \"Deleted\" is never written";
     const bool opens = !CloserOf(box.BoxType).empty() || IsSubroutineCall(box.BoxType);
@@ -67,7 +67,7 @@ void CheckError(Check& check, int error) {
     if (check.Found.size() == before) Report(check, 0, text, "Look at its blocks");
 }
 
-/// What a run that came to its end hasn't come to.
+/// Reports what a run that reached its end has left out.
 void CheckLeftOut(Check& check, const TrialEnd& end) {
     if (end.Depth != 0) {
         Report(check, 0, "The run ends inside a block and leaves out what waits outside",
@@ -95,7 +95,7 @@ std::vector<Finding> CheckDocument(int document) {
     FindReached(check);
     for (const int box : check.Own) CheckOne(check, box);
     CheckBlocks(check);
-    // What only a run shows, when nothing explains a stop yet.
+    // A trial run shows the rest, when nothing explains a stop yet.
     if (!check.Stops) {
         const auto end = TryCompiling(document);
         CheckWaiting(check, end);

@@ -6,7 +6,7 @@
 
 namespace quorvane {
 
-/// Something that would trouble a run or MATLAB behind it.
+/// A problem for a run, or for MATLAB with the script of the run.
 struct Finding {
     int Box = 0;         ///< The number of its box, 0 for the diagram as a whole
     std::string Type;    ///< The box's type; "" for the diagram
@@ -14,10 +14,9 @@ struct Finding {
     std::string Advice;  ///< What to do about it
 };
 
-/// Looks for what would trouble a run of the document with this number, with the preferences as
-/// they are, and tells it in the order of the boxes; the diagram as a whole comes first. When
-/// nothing is found, a run to text comes to its end without asking about a box. Everything is left
-/// as it was.
+/// Finds the problems of a run of the document with this number under the current preferences, in
+/// the order of the boxes; those of the whole diagram come first. When nothing is found, a run to
+/// text ends without asking about a box. All state stays as it was.
 std::vector<Finding> CheckDocument(int document);
 
 }  // namespace quorvane

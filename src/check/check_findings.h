@@ -10,27 +10,27 @@
 
 namespace quorvane {
 
-/// A check of one document at work. Numbers are those of boxes.
+/// The state of the check of one document. Numbers are those of boxes.
 struct Check {
     int Document = 0;
     std::vector<Finding> Found;
-    bool Stops = false;         ///< A finding keeps the run from its end or a box from the script
+    bool Stops = false;         ///< A finding that stops the run, or keeps a box out of the script
     std::vector<int> Own;       ///< The boxes of the document
     std::vector<bool> Reached;  ///< By number: the arrows lead to it from a start
-    /// By number: the first feeder that isn't reached, which the walk doesn't pass by; 0 for none.
+    /// By number: the first feeder that isn't reached and so holds the box up; 0 for none.
     std::vector<int> UnreachedFeeder;
     std::vector<std::string_view> Words;  ///< The names in its texts, in order, once asked for
 };
 
 /// Adds a finding about a box, or with 0 about the diagram.
 void Report(Check& check, int box, const std::string& text, const std::string& advice);
-/// A finding that explains why a run doesn't come to its end.
+/// Adds a finding that explains why a run doesn't reach its end.
 void ReportStop(Check& check, int box, const std::string& text, const std::string& advice);
 
 bool IsReached(const Check& check, int box);
 /// True for a number that a box of the table has.
 bool IsThere(int box);
-/// Passive boxes: the walk doesn't come to them.
+/// True for a passive box, which the walk never visits.
 bool IsPassive(const Box& box);
 /// "box3 (Sin)"
 std::string Named(int box);

@@ -18,8 +18,8 @@ constexpr std::string_view OneToo = "it names an entry that the box doesn't have
 constexpr std::string_view Lone = "the second argument is missing";
 
 // clang-format off
-// Type, what is wrong with its line, function in its place. What newer versions of MATLAB have
-// dropped isn't meant here: these lines have never been right.
+// Type, what is wrong with its line, function in its place. Functions that newer versions of MATLAB
+// have dropped are not listed: these lines have never been right.
 constexpr TroubledType troubledTypes[] = {
     // The menus make these, and no row of the emission chain has them.
     {"Cumulative sum", "", "cumsum(input1);"},
@@ -28,7 +28,7 @@ constexpr TroubledType troubledTypes[] = {
     {"Sound axis scaling", "", "saxis(input1);"},
     {"wavread", "", "wavread(input1);"},
     {"wavwrite", "", "wavwrite(input1,input2,input3);"},
-    // Rows whose texts don't make a line.
+    // Rows whose texts don't make a valid line.
     {"StrCmp", Bracket, "strcmp(input1,input2);"},
     {"FindStr", Bracket, "findstr(input1,input2);"},
     {"StrRep", Bracket, "strrep(input1,input2,input3);"},
@@ -54,8 +54,8 @@ constexpr TroubledType troubledTypes[] = {
     {"Rem", Lone, "rem(input1,input2);"},
 };
 
-/// Entries that a type can't do without though its row doesn't say so: it is one of the writers, or
-/// the row leaves an argument out without which the function fails.
+/// Entries that a type needs although its row doesn't say so: a writer makes its line, or the row
+/// leaves out an argument that the function needs.
 struct EntriesOfType {
     std::string_view Key;
     std::string_view Entries;
@@ -91,7 +91,7 @@ constexpr std::string_view typesWithoutValue[] = {
     "End Subroutine",
 };
 
-// Texts that stand alone in a line which is none without them.
+// Types whose line consists of their text and is invalid without it.
 constexpr TroubledType textsOfTypes[] = {
     {"While", "a condition", ""},
     {"Pickup", "the name of a variable", ""},
@@ -120,8 +120,8 @@ void AddHoles(std::string& entries, std::string_view text) {
     }
 }
 
-/// The characters behind each word of a free text or a plot that names an entry; a blank at the
-/// end.
+/// The character after each word of a free text or a plot that names an entry; a blank at the end
+/// of the text.
 std::string BehindEntryWords(const Box& box) {
     const auto* row = FindEmissionRow(box.BoxType);
     const bool isPlot = row && row->Write == WritePlot;

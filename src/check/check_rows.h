@@ -8,11 +8,11 @@
 
 namespace quorvane {
 
-/// A type whose boxes come to nothing as they are.
+/// A type whose boxes don't work as they are.
 struct TroubledType {
     std::string_view Key;
     std::string_view Fault;     ///< What is wrong with its line, "" when no row writes one
-    std::string_view Function;  ///< What a "Matlab Command" box takes in its place
+    std::string_view Function;  ///< The function for a "Matlab Command" box in its place
 };
 
 /// What is known of a type, nullptr when nothing is wrong with it.
@@ -22,15 +22,15 @@ const TroubledType* FindTroubledType(std::string_view type);
 /// "" when its line is right.
 std::string ManipulationInstead(std::string_view text);
 
-/// The digits of the entries without which the line of a box has a hole or a call too few
-/// arguments, in order. The words of free texts count as they stand there.
+/// The digits, in order, of the entries without which the line of a box has a gap or a call has too
+/// few arguments. In free texts the words that name entries count.
 std::string NeededEntries(const Box& box);
 
 /// What the text of a box lacks for a whole line, "" when it is all there.
 std::string_view MissingInText(const Box& box);
 
-/// True when the text of a box has the word that names an entry without a digit of one behind it,
-/// which ends a run unless a file box came before.
+/// True when a word in the text of a box should name an entry but has no digit of one after it.
+/// That ends a run, unless a file box was written before.
 bool NamesNoEntry(const Box& box);
 
 /// True when the box leaves a value in its variable.

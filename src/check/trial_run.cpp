@@ -11,8 +11,8 @@ namespace quorvane {
 
 namespace {
 
-/// What a walk changes, put back at the end of the scope. In between nobody is asked, and nothing
-/// is left of a run that may be waiting for an answer just now.
+/// Restores at the end of the scope what a walk changes. In between nobody is asked, and the marks
+/// of a run that may be waiting for an answer right now are off.
 class KeptState {
 public:
     KeptState() {

@@ -13,15 +13,15 @@ struct WaitingBox {
 
 /// Outcome of an unattended run.
 struct TrialEnd {
-    bool Done = false;                ///< It came to its end
-    int Error = 0;                    ///< The run-time error that ended it, 0 for none
-    int Depth = 0;                    ///< Blocks that are open in the end; below 0 more were closed
+    bool Done = false;  ///< It came to its end
+    int Error = 0;      ///< The run-time error that ended it, 0 for none
+    int Depth = 0;      ///< Blocks still open at the end; below 0 when too many were closed
     std::vector<WaitingBox> Waiting;  ///< The front when it asked what to do about a stall
     std::vector<bool> Written;        ///< By number: the box is done
 };
 
 /// Walks a document with every question cancelled or aborted, and puts everything back as it was,
-/// whatever ends the walk.
+/// however the walk ends.
 TrialEnd TryCompiling(int document);
 
 }  // namespace quorvane

@@ -45,7 +45,7 @@ void frmFunc_opnInput_Click(int Index);
 void frmFunc_txtRow_Change();
 void frmFunc_txtCol_Change();
 void frmFunc_cmdMatlab_Click();
-/// Warns when a cell lacks its row or column, and hides anyway.
+/// Warns when a cell lacks its row or column, but hides the dialog in any case.
 void frmFunc_cmdOK_Click();
 Form frmFunc_Table();
 void CompleteFunction(int box, const Box* former);

@@ -64,7 +64,7 @@ bool ComposeLines(const GraphType&, std::string& script) {
         return false;
     }
     if (Marked(1, X)) {
-        // The style stands behind the X input itself, and the first pair has no Y.
+        // The style follows the X input itself, and the first pair has no Y.
         script += "Input1," + LineStyle(1) + ",";
         AppendLine(script, "Input2", 2);
         AppendLine(script, "Input1,Input3", 3);
@@ -86,7 +86,7 @@ bool ComposeLines(const GraphType&, std::string& script) {
     return true;
 }
 
-/// The marks are required, but only a style is written.
+/// The marks are required, but only the style is written.
 bool ComposeStyleAlone(const GraphType& type, std::string& script) {
     const int y = MarkedInput(Y);
     if (y == 0) return Refuse(NoY);

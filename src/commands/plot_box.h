@@ -11,7 +11,7 @@
 
 namespace quorvane {
 
-/// What choosing a graph type does to the Z axis of the dialog.
+/// How choosing a graph type changes the Z axis of the dialog.
 enum class ZColumn { Hidden, Shown, ErrorBars };
 
 /// A graph type: how the dialog changes for it, and how its command is put together.
@@ -21,7 +21,7 @@ struct GraphType {
     ZColumn Z;
     bool LineControls;
     std::string_view Command;
-    /// Appends what stands behind the command; false when a message has refused the marks.
+    /// Appends the rest of the command; false when a message has refused the marks.
     bool (*Compose)(const GraphType& type, std::string& script);
 };
 extern const std::vector<GraphType> graphTypes;

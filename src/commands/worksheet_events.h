@@ -18,8 +18,8 @@ constexpr int ShiftKey = 1;
 constexpr int CtrlKey = 2;
 constexpr int AltKey = 4;
 
-/// Places the armed box, or moves or copies the selection. Every press takes the selection
-/// rectangle away, which counts as a change.
+/// Places the armed box, or moves or copies the selection. Every press removes the selection
+/// rectangle, which counts as a change.
 void main_MouseDown(Worksheet& sheet, int Button, int Shift, double X, double Y);
 
 /// Runs the command that the toolbox left for the first worksheet under the mouse; draws the

@@ -65,7 +65,7 @@ const ButtonRow& RowOf(Buttons choice) {
     return buttonRows[0];
 }
 
-/// What stands behind "word " or, for the bare word, "". False when the answer is another one.
+/// Puts what follows "word " into the text, "" for the bare word. False for any other answer.
 bool TakeWord(const std::string& answer, const std::string& word, std::string& rest) {
     if (answer != word && !answer.starts_with(word + " ")) return false;
     rest = answer.size() > word.size() ? answer.substr(word.size() + 1) : "";

@@ -30,7 +30,7 @@ private:
 
 /// A field of the transcript: backslash, TAB, CR and LF as \\, \t, \r and \n.
 std::string Escaped(const std::string& text);
-/// The text behind it; a backslash in front of any other character stays as it is.
+/// The reverse of Escaped; a backslash before any other character stays as it is.
 std::string Unescaped(const std::string& text);
 
 /// The transcript's line of a run-time error.

@@ -40,7 +40,7 @@ int Refuse(const std::string& what) {
     return NothingCompiled;
 }
 
-/// The lines of the answers file, without the empty one behind the last line end.
+/// The lines of the answers file, without the empty one after the last line end.
 std::deque<std::string> ReadAnswers(const std::string& path) {
     std::deque<std::string> answers;
     const int number = FreeFile();
@@ -50,8 +50,8 @@ std::deque<std::string> ReadAnswers(const std::string& path) {
     return answers;
 }
 
-/// Loads the diagram while its messages are held back. When it can't be compiled, one line says
-/// why.
+/// Loads the diagram without showing the loader's messages. When it can't be compiled, one line
+/// says why.
 bool LoadDiagram(ConsoleDesktop& console, const std::string& path, std::string& why) {
     std::vector<std::string> held;
     std::string lastText;

@@ -15,7 +15,7 @@ namespace quorvane {
 
 namespace {
 
-// The looks of the worksheet on the screen; src/qt has the same numbers.
+// What a worksheet looks like on the screen; src/qt/sheet has the same numbers.
 constexpr double UnitsPerPixel = 15;
 constexpr const char* SheetColor = "#4c5866";
 constexpr const char* FaceColor = "#fbfbf8";

@@ -61,8 +61,8 @@ struct Fields {
 Fields NextLine(Load& load) {
     Fields fields;
     load.Do([&] {
-        // By way of a value of its own: gcc 12 forgets the empty line when the call that assigns to
-        // it throws.
+        // Through a variable of its own: gcc 12 forgets the empty line when the call that assigns
+        // to it throws.
         const auto line = LineInput(LoadFile);
         fields.Rest = line;
     });
@@ -154,7 +154,7 @@ bool ReadBoxes(Load& load, std::int16_t base, std::int16_t count) {
 /// The diagram being saved: which table index has which number in the file.
 std::vector<std::int16_t> numberedBoxes;
 
-/// Overwrites each CR and the character behind it by ";;", so that the text fits on a line.
+/// Overwrites each CR and the character after it with ";;", so that the text fits on a line.
 std::string WithoutLineBreaks(std::string text) {
     for (std::size_t i = 0; i < text.size(); ++i) {
         if (text[i] != '\r') continue;
@@ -305,7 +305,7 @@ void SaveDocument(std::int16_t document, std::int16_t mode) {
     if (mode == 2 || IsUntitled(window.Caption)) {
         if (!AskForName(window.Caption, name)) return;
     }
-    // A failure is passed over in silence; the old file is then still there.
+    // A failure is ignored silently; the old file is then still there.
     auto& state = DocumentStates[document];
     state.SaveFailed = !Attempt([&] { ReplaceFile(name, DocumentText(document) + "\r\n"); });
     if (!state.SaveFailed) ++state.Stored;

@@ -12,12 +12,12 @@ namespace quorvane {
 /// The filter of the dialogs that load and save a diagram.
 extern const char* const DocumentFilter;
 
-/// How the last load ended. A load reports by messages; this is for a caller that can't see them.
+/// How the last load ended. A load reports by messages; this is for a caller that can't show them.
 struct LoadOutcome {
     bool Opened = false;
-    bool HasCount = false;  ///< It begins with a number of boxes, as every diagram does
-    bool Finished = false;  ///< It came to its end: not refused for too many boxes, not cut short
-    bool ReadPastEnd = false;  ///< A line was asked for behind the end of the file
+    bool HasCount = false;     ///< It begins with a number of boxes, as every diagram does
+    bool Finished = false;     ///< It was read to its end: neither refused nor cut short
+    bool ReadPastEnd = false;  ///< A line was asked for after the end of the file
 };
 extern LoadOutcome lastLoad;
 
@@ -27,8 +27,8 @@ std::int16_t NewDocument();
 /// Makes the window of a document that has none, and brings its menus in line with the frame's.
 void OpenWindow(std::int16_t document);
 
-/// Loads a diagram behind the boxes that are in the table. An empty name asks the user for a file;
-/// of any other only the last component counts, which is looked for in the current folder.
+/// Loads a diagram; its boxes come after those in the table. An empty name asks the user for a
+/// file; of any other only the last component counts, which is looked for in the current folder.
 void LoadDocument(const std::string& name);
 
 /// Loads the file at `path` into a new document. The caption becomes the path. `open` gives the
@@ -48,7 +48,7 @@ void ResetDocumentFile();
 /// Numbers boxes by their first mention while saving; 0 and below stay as they are.
 std::int16_t MapBoxNumber(std::int16_t tableIndex);
 
-/// The position, from 1, of the first "~", or one behind the end of a text without one.
+/// The position, from 1, of the first "~", or one past the end of a text without one.
 std::size_t FindFieldEnd(std::string_view text);
 
 }  // namespace quorvane

@@ -11,14 +11,14 @@ namespace quorvane {
 /// True when one of the frame's entries 1 to 4 has this caption.
 bool IsRecentFile(const std::string& name);
 
-/// Puts `name` in front unless the frame's menu already shows it, and fills the menus anew.
+/// Puts `name` first unless the frame's menu already shows it, and refills the menus.
 void AddRecentFile(const std::string& name);
 
 /// Moves every stored name down by one and stores `name` as the newest.
 void ShiftRecentFiles(const std::string& name);
 
-/// Fills the menus from the store. Row 0, the newest name, shows in the frame nowhere, and a
-/// document shows each name one entry further down than the frame.
+/// Fills the menus from the store. Row 0, the newest name, isn't shown in the frame, and a document
+/// shows each name one entry further down than the frame.
 void RefreshRecentFileMenus();
 
 }  // namespace quorvane

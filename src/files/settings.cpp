@@ -27,7 +27,7 @@ constexpr const char* Section = "Prefrences";
 constexpr std::string_view Unset = "Not Used";
 /// A longer value is cut.
 constexpr std::size_t LongestValue = 254;
-/// A longer toolbox size doesn't count.
+/// A longer toolbox size is ignored.
 constexpr std::size_t LongestSize = 9;
 
 std::string CheckedText(const CheckBox& box) { return NumberText(box.Value); }
@@ -43,7 +43,7 @@ const std::pair<const char*, std::function<std::string()>> writtenSettings[] = {
     {"Scan Drives", [] { return frmPrefs.txtDrives.Text; }},
 };
 
-/// Nothing for a value that is not set.
+/// No value for a key that is missing, empty or "Not Used".
 std::optional<std::string> Setting(const char* key) {
     auto value = GetPrivateProfileString(Section, key, std::string(Unset),
                                          JoinPath(ProgramDirectory, "QUORVANE.INI"));

@@ -14,12 +14,12 @@ namespace quorvane {
 /// just these lines sets nothing, since their header is not that of the section that is read.
 extern const std::vector<std::string_view> settingsTemplate;
 
-/// Takes the preferences over from the settings file and fills the menus of recent files. What the
-/// file doesn't give stays as it is; "Unused Boxs for Input" is never read. Error 13 when the line
-/// width begins with no digit: what stands behind it is then not read.
+/// Reads the preferences from the settings file and fills the menus of recent files. What the file
+/// doesn't hold stays as it is; "Unused Boxs for Input" is never read. Error 13 when the line width
+/// doesn't begin with a digit: nothing after it is then read.
 void ReadSettings();
 
-/// Writes the settings file anew.
+/// Writes all preferences to the settings file. What can't be written is not reported.
 void WriteSettings();
 
 }  // namespace quorvane

@@ -14,7 +14,7 @@ bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 constexpr std::size_t WordLength = 5;  // of "Input"
 
-/// The variable that feeds the entry whose digit stands behind the word.
+/// The variable that feeds the entry whose digit follows the word.
 std::string FeederName(int box, std::string_view behindWord) {
     if (behindWord.empty() || !IsDigit(behindWord[0])) throw RuntimeError(13);
     return BoxName(Boxes[box].BoxIn[behindWord[0] - '0']);

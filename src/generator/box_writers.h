@@ -17,7 +17,7 @@ bool WriteVectorMake(Run& run, int box, int slot);
 bool WriteFileInput(Run& run, int box, int slot);
 bool WriteFileOutput(Run& run, int box, int slot);
 bool WriteSum(Run& run, int box, int slot);
-/// True when `text` begins with the word that names an entry by the digit behind it: "Input", and
+/// True when `text` begins with the word that names an entry by the digit after it: "Input", and
 /// "input" where both count. In a plot the word is meant only with a digit, elsewhere a word
 /// without the digit of an entry is error 13 or 9.
 bool NamesEntry(std::string_view text, bool isPlot);
@@ -27,7 +27,7 @@ bool IsLogicOperator(std::string_view text);
 bool WriteLogic(Run& run, int box, int slot);
 bool WriteMatrixManipulation(Run& run, int box, int slot);
 bool WriteSplit(Run& run, int box, int slot);
-/// True when a "Pause" hands a value on: that of a feeder which has one.
+/// True when a "Pause" passes on a value: that of its feeder, if that has one.
 bool HandsOn(const Box& pause);
 bool WritePause(Run& run, int box, int slot);
 bool WritePlot(Run& run, int box, int slot);

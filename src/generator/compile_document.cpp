@@ -60,7 +60,7 @@ void Indent(Run& run) {
     for (int depth = 0; depth < nestingDepth; ++depth) run.scriptText += IndentStep;
 }
 
-/// The boxes that `box` feeds enter the front. An "If" has opened its arms itself, and goes on by
+/// The boxes that `box` feeds enter the front. An "If" has opened its arms itself and continues at
 /// its further exits.
 void AddSuccessors(const Box& box) {
     for (int j = ArmCount(box) + 1; j <= 5; ++j) {
@@ -68,7 +68,7 @@ void AddSuccessors(const Box& box) {
     }
 }
 
-/// Asks what to do about the suspect. False when the run is to be broken off.
+/// Asks what to do about the suspect. False when the run is to be aborted.
 bool AskAboutStall(Run& run, int slot) {
     const auto answer = desktop->MsgBox(
         {"There seems to be an infinite loop here, whereby " + BoxName(run.stallBox) + " (" +
@@ -106,8 +106,7 @@ bool Succeed(Run& run, int slot, const Box& box) {
     return true;
 }
 
-/// Notes who wrote the lines that have come to the script. The last one may still be without an
-/// end.
+/// Notes which box wrote the new lines of the script. The last one may still lack its line end.
 void NoteLines(Run& run, int box) {
     auto lines = std::count(run.scriptText.begin(), run.scriptText.end(), '\n');
     if (!run.scriptText.ends_with('\n') && !run.scriptText.ends_with(IndentStep)) ++lines;
@@ -115,7 +114,7 @@ void NoteLines(Run& run, int box) {
 }
 
 /// Visits one slot. The box in it is read anew where it counts, since a box that opens or closes a
-/// block replaces the whole front. False when the run is to be broken off.
+/// block replaces the whole front. False when the run is to be aborted.
 bool VisitSlot(Run& run, int slot) {
     const int found = Front[slot];
     if (found == 0) return true;
@@ -133,8 +132,7 @@ bool VisitSlot(Run& run, int slot) {
     return IsDone(now) ? Succeed(run, slot, now) : Stall(run, slot);
 }
 
-/// A front that holds nothing but numbers below 0, which stand for no box, would be walked for
-/// ever.
+/// A front that holds only numbers below 0, which are no boxes, would be walked for ever: error 9.
 void RefuseLostFront() {
     const auto* slots = Front.Data();
     const auto* end = slots + frontWidth + 1;
@@ -143,7 +141,7 @@ void RefuseLostFront() {
     if (lost) throw RuntimeError(9);
 }
 
-/// Walks the front until it is empty. False when the run was broken off.
+/// Walks the front until it is empty. False when the run was aborted.
 bool WalkFront(Run& run) {
     while (!IsFrontEmpty()) {
         const int bound = frontWidth;

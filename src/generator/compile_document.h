@@ -17,9 +17,9 @@ extern RunEnd lastRunEnd;
 /// entries are all locked, or with the preference `chkInput` a box with three open entries.
 bool StartsRun(const Box& box);
 
-/// Walks the document of a run from its start boxes on and tells how that ended. Nothing is told or
-/// put back: the marks stand on the boxes that are done, and the front as it was in the end. What
-/// it asks for goes to Desktop.
+/// Walks the document of a run from its start boxes on and tells how that ended. Nothing is
+/// reported or restored: boxes that are done keep their marks, and the front stays as it was at the
+/// end. Questions of the boxes go to Desktop.
 RunEnd WalkDocument(Run& run);
 
 /// Turns the boxes of the document with this number into script. With `mode` 1 the script comes

@@ -12,8 +12,8 @@ using namespace std::string_view_literals;
 
 constexpr std::string_view ElseMark = "else";
 
-/// A block opens only when no other box of the front could go on instead. The feeders are asked
-/// first, since asking writes the lines of Pickups.
+/// A block opens only when no other box of the front could be written instead. The feeders are
+/// asked first, since asking writes the lines of Pickups.
 bool MayOpen(Run& run, int box) {
     const bool ready = Ready(run, box);
     const bool alone = AttemptValue(run.Policy, false, [&] { return NoOtherBoxReady(box); });
@@ -43,7 +43,7 @@ bool WriteNext(Run& run, int box, int slot) {
     Strip(run);
     run.Policy = ErrorPolicy::Ignore;
     Attempt([&] { PopFront(); });
-    // The box that waited in this slot makes room, so that the driver goes on with the Next box.
+    // The box that waited in this slot makes room, so that the driver continues with the Next box.
     const auto waiting = Front[slot];
     Front[slot] = static_cast<std::int16_t>(box);
     if (waiting != 0) AddToFront(waiting);
@@ -53,8 +53,7 @@ bool WriteNext(Run& run, int box, int slot) {
 }
 
 bool WriteEndSubroutine(Run& run, int box, int /*slot*/) {
-    // The box that feeds the call stands in slot 0 of the frame; its first exit leads to the
-    // caller.
+    // Slot 0 of the frame holds the box that feeds the call; its first exit leads to the caller.
     const int caller =
         AttemptValue(run.Policy, 0, [&] { return int{Boxes[Frame(nestingDepth)[0]].BoxOut[1]}; });
     run.Policy = ErrorPolicy::Ignore;

@@ -14,7 +14,7 @@ bool WriteEndSubroutine(Run& run, int box, int slot);
 /// The arms that a box opens by its first exits: 0 when it isn't an "If", else 1 or, with "else" at
 /// the beginning of its text, 2.
 int ArmCount(const Box& box);
-/// The text of an "If" behind that "else".
+/// The text of an "If" without that "else".
 std::string_view ConditionOf(const Box& box);
 bool WriteIf(Run& run, int box, int slot);
 bool WriteEndIf(Run& run, int box, int slot);

@@ -36,7 +36,8 @@ struct EmissionRow {
     std::string_view Head = "";
     std::vector<Piece> Pieces = {};
     std::string_view Close = "";
-    /// Writes the box in visiting slot `slot` in place of the texts; false leaves it unmarked.
+    /// Writes the box, which the walk has met in slot `slot`, in place of the texts; false leaves
+    /// it unmarked.
     bool (*Write)(Run& run, int box, int slot) = nullptr;
     /// Knows the types of a row that can't list them.
     bool (*Knows)(std::string_view type) = nullptr;

@@ -11,8 +11,9 @@ namespace quorvane {
 /// The number of the box that wrote each line of a script.
 using LineBoxes = std::vector<std::int16_t>;
 
-/// The link to a running MATLAB as a run uses it. What stands behind it (matlab_link/link.h) is put
-/// in when the program starts; until then nothing happens. The command line puts in a printer.
+/// The link to a running MATLAB as a run uses it. The program sets it to the real link
+/// (matlab_link/link.h) when it starts; until then its calls do nothing. The command line sets it
+/// to a printer.
 struct LinkDoor {
     /// Error 282 when nothing answers, as for Execute.
     std::function<void()> Open = [] {};
@@ -20,7 +21,7 @@ struct LinkDoor {
         [](const std::string&, const LineBoxes&) {};
     /// What was printed for the last Execute.
     std::function<std::string()> Request = [] { return ""; };
-    /// Ends a run, which has `come` to its end or was broken off, and returns what there is to say.
+    /// Ends a run, which has `come` to its end or was aborted; returns a note for the log, or "".
     std::function<std::string(bool come)> Finish = [](bool) { return ""; };
     /// The command "Start Matlab".
     std::function<void()> StartMatlab = [] {};

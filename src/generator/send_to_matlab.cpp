@@ -51,7 +51,7 @@ bool Execute(LinkBox& sender, const LineBoxes& boxes) {
     return true;
 }
 
-/// What a failing step leaves out is missing from the log, and nothing else.
+/// A failing step leaves its answer out of the log; nothing else changes.
 void Request(LinkBox& receiver) {
     PrepareLink(receiver, "EngStringResult");
     receiver.LinkMode = 2;

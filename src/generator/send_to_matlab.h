@@ -18,8 +18,8 @@ struct LinkBox {
     std::string LinkItem;
 };
 
-/// The window that gathers what was sent to MATLAB and what it answered. It stays beside the
-/// worksheets and is no dialog.
+/// The window that gathers what was sent to MATLAB and what it answered. It stays open beside the
+/// worksheets and is not modal.
 struct TextResultsForm {
     FormState Form = {.Caption = "Matlab Text Results"};
     bool Minimized = false;

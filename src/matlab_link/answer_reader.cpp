@@ -17,7 +17,7 @@ std::optional<Mark> TakeMark(AnswerReader& reader) {
     auto& text = reader.Received;
     const auto start = MarkEdge + reader.Token;
     const auto at = text.find(start, reader.Looked);
-    // The line end in front of a mark stays within reach as long as the mark may still come.
+    // The line end before a mark is kept within reach as long as the mark may still come.
     if (at == std::string::npos) {
         if (text.size() > start.size()) {
             reader.Looked = std::max(reader.Looked, text.size() - start.size());

@@ -6,15 +6,15 @@
 
 namespace quorvane {
 
-/// How many bytes of an answer are kept; what is printed beyond is only counted.
+/// How many bytes of an answer are kept; what is printed beyond them is counted only.
 constexpr std::size_t AnswerLimit = 8 << 20;
 
-/// What the engine tells the link, in between what a script prints: "\1", the token, a letter, ":",
-/// a text, "\1". A line end in front of it is its own, but not in front of a question.
+/// What the engine tells the link in the middle of what a script prints: "\1", the token, a letter,
+/// ":", a text, "\1". A line end before it belongs to the mark, but not before a question.
 enum class MarkKind : char {
     Begin = 'b',    ///< A script begins; the text is its number, as with the next two
     End = 'e',      ///< It has come to its end
-    Unwound = 'u',  ///< It was left before its end
+    Unwound = 'u',  ///< It was left before it came to its end
     Figures = 'f',  ///< The engine has drawn
     Line = 'i',     ///< Asks for a line; the text is the question
     Pause = 'p',    ///< Waits until the user is ready
@@ -26,21 +26,21 @@ struct Mark {
 
 /// The answer to a script as it comes in, in pieces of any size.
 struct AnswerReader {
-    std::string Token;        ///< Part of each mark, known to nobody but the link and its engine
-    std::string Received;     ///< Without the marks that were taken
-    std::size_t Looked = 0;   ///< In front of this no mark begins
+    std::string Token;        ///< Part of each mark; only the link and its engine know it
+    std::string Received;     ///< The answer, without the marks that were taken out
+    std::size_t Looked = 0;   ///< No mark begins before this position
     std::size_t LeftOut = 0;  ///< Bytes beyond the limit
 };
 
-/// Takes the next mark out, if it is there whole; Looked then is its place.
+/// Takes out the next mark, if all of it is there; Looked is then its position.
 std::optional<Mark> TakeMark(AnswerReader& reader);
-/// Puts a text of the link's own at Looked.
+/// Inserts a text of the link itself at Looked.
 void InsertText(AnswerReader& reader, const std::string& text);
 /// Drops what came before Looked: it belongs to no script.
 void BeginAnswer(AnswerReader& reader);
-/// Drops what comes behind Looked: the script has ended there.
+/// Drops what comes after Looked: the script has ended there.
 void EndAnswer(AnswerReader& reader);
-/// Cuts what is beyond the limit, as far as it was looked through.
+/// Cuts what is beyond the limit, as far as it was searched for marks.
 void LimitAnswer(AnswerReader& reader);
 /// The answer as the user sees it, with the count of what was left out.
 std::string AnswerOf(AnswerReader& reader);

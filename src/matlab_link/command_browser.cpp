@@ -30,7 +30,7 @@ struct FieldFile {
     FieldFile& operator=(const FieldFile&) = delete;
     bool AtEnd() const { return EndOfFile(Number); }
     std::string Next() const { return std::string(InputField(Number)); }
-    /// As Next, but without the blanks behind a comma.
+    /// As Next, but without the blanks after a comma.
     std::string NextOfLine() const {
         const bool goesOn = LineGoesOn(Number);
         auto item = Next();
@@ -51,7 +51,7 @@ void ReadCategories(const FieldFile& index, GrowableArray<CategoryRecord>& categ
     }
 }
 
-/// The end is asked for before an item is taken, so that the last one is left out.
+/// The end is tested before an item is taken, so that the last one is left out.
 void ReadFiles(const FieldFile& index) {
     FileList = GrowableArray<std::string>(1);
     if (index.AtEnd()) return;
@@ -82,8 +82,8 @@ void Rescan() {
     });
 }
 
-/// All that is asked of the file list when categories are chosen: does a path occur in it? Nearly
-/// all are the path of a folder, which is quickly looked up; a text in between is searched for.
+/// Answers whether a path occurs in the file list, which is asked for each category. Nearly all are
+/// the path of a folder, which is a quick lookup; any other text is searched for.
 class PathsInFiles {
 public:
     PathsInFiles() {
@@ -118,8 +118,8 @@ void FillCategories() {
     list.emplace_back(AllFiles);
 }
 
-/// The first comment of a file. A comma ends a field in the middle of a line, and what stands
-/// behind it and its blanks begins a field of its own, without "%".
+/// The first comment of a file. A comma ends a field in the middle of a line; what follows it and
+/// its blanks begins a field of its own, without "%".
 std::string ReadHelp(const std::string& path) {
     const FieldFile file(path);
     std::string item;

@@ -24,22 +24,22 @@ extern MatlabForm frmMatlab;
 /// Reads the index unless that has been done, and fills the categories with those that have files.
 /// Without an index the drives are scanned first. The last line of the index is never read.
 void frmMatlab_Load();
-/// Lists the files in whose path that of the category occurs, those of folders below it included.
+/// Lists the files whose path contains that of the category, so also those of folders below it.
 void frmMatlab_cmbCategory_Click();
-/// Shows the comment that stands first in the selected file, or asks whether to scan again when it
-/// can't be read. A comma-separated line is put together again with a blank for each comma.
+/// Shows the first comment of the selected file, or asks whether to scan again when the file can't
+/// be read. A line with commas shows a blank for each of them.
 void frmMatlab_lstFunc_Click();
 /// Scans the drives and lists the files of the chosen category anew. The categories of the dialog
 /// stay as they were until it is opened again.
 void frmMatlab_cmdRescn_Click();
 /// Hands the name of the selected function, or "" when none is selected, to the caller.
 void frmMatlab_cmdOK_Click();
-/// The user closes the window: nothing is handed over.
+/// The user closes the window: the caller gets nothing.
 void frmMatlab_Close();
 Form frmMatlab_Table();
 
-/// Loads the dialog for a caller, "mat" or "func", with the hourglass as pointer, and shows it. It
-/// is what OpenCommandBrowser stands for.
+/// Loads the dialog for a caller, "mat" or "func", with the hourglass as pointer, and shows it.
+/// OpenCommandBrowser is set to this.
 void ShowCommandBrowser(std::string_view caller);
 
 }  // namespace quorvane

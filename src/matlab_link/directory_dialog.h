@@ -6,14 +6,14 @@
 
 namespace quorvane {
 
-/// The dialog that asks for a folder. Where the user goes in it, the process's current directory
-/// goes too. There is no Cancel: the folder that was last gone to is the answer,
-/// also where the user just closes the window.
+/// The dialog that asks for a folder. The process's current directory follows the user through the
+/// folders. There is no Cancel: the folder that was entered last is the answer, even if the user
+/// just closes the window.
 struct DirectoryForm {
     FormState Form = {.Caption = "Quorvane"};
     Label lblTop = {.Caption = "Please locate the Quorvane directory"};  ///< The question
     ComboBox Drive1;  ///< The drives, as "C:"; empty, and not shown, where there are none
-    ComboBox Dir1;    ///< The path, and below it what can be gone to from there: "..", subfolders
+    ComboBox Dir1;    ///< The path, and below it where to go from there: ".." and the subfolders
     TextBox director = {.Visible = false};  ///< The result: the chosen folder
     Button cmdOK = {.Caption = "OK"};
 };
@@ -23,8 +23,8 @@ extern DirectoryForm frmDirectory;
 void frmDirectory_Load();
 void frmDirectory_Drive1_Change();
 /// Goes to the path, or to the entry of the list, that the text of Dir1 names. Nothing happens as
-/// long as it names none. In a folder whose first settings file is the program's the dialog accepts
-/// by itself, if its question is written with capitals, which no caller does.
+/// long as it names none. In a folder whose first settings file is the program's own, the dialog
+/// accepts by itself, provided that its question is capitalised, which that of no caller is.
 void frmDirectory_Dir1_Change();
 void frmDirectory_cmdOK_Click();
 Form frmDirectory_Table();

@@ -19,7 +19,7 @@ namespace {
 
 constexpr int FileNotFound = 53;
 
-/// Which functions bear the token in their names, and which are for Octave alone, since MATLAB has
+/// Which functions have the token in their names, and which are for Octave alone, since MATLAB has
 /// its own.
 constexpr std::array<std::string_view, 2> ours = {"run", "ask"};
 constexpr std::string_view octaveFunction = "system_dependent";
@@ -34,7 +34,7 @@ void Replace(std::string& text, std::string_view from, const std::string& to) {
     }
 }
 
-/// A new folder with all rights for its owner and none for others; the file name gets a number.
+/// A new folder that only its owner can read and enter; a number makes its name unique.
 fs::path NewFolder() {
     std::error_code error;
     const auto place = fs::temp_directory_path(error);

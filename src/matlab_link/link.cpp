@@ -24,10 +24,10 @@ constexpr std::int64_t QuietMilliseconds = 400;
 constexpr std::int64_t GoingMilliseconds = 3000;
 constexpr int BreakSeconds = 5;
 constexpr std::int16_t NoBox = 0;
-/// How the engine begins what it says of a script that it can't read; the line's number follows.
+/// How the engine's message about a script that it can't parse begins; the line's number follows.
 constexpr const char* ParseError = "parse error near line ";
 
-/// What an engine is started with, by the beginning of its file name.
+/// The arguments of an engine, by the beginning of its file name.
 struct EngineRow {
     const char* Name;
     bool IsOctave;
@@ -46,8 +46,8 @@ const EngineRow engineRows[] = {
 
 /// The engine that was started last and what is known of it.
 struct Engine {
-    EngineFolder Folder;  ///< Holds the functions of ours and the script that runs
-    std::string Token;    ///< Part of all names and marks of ours, drawn anew for each engine
+    EngineFolder Folder;  ///< Holds our functions and the script that runs
+    std::string Token;    ///< Part of all our names and marks, drawn anew for each engine
     std::string Kept;     ///< The parts of a block that isn't closed yet
     LineBoxes KeptBoxes;
     std::string Answer;
@@ -63,7 +63,7 @@ struct Job {
     AnswerReader Reader;
     std::int64_t SentAt = 0;         ///< When the script, or the last line for it, was sent
     std::int64_t StoppedAt = Never;  ///< When the user broke it off
-    std::int64_t LeftAt = Never;     ///< When it was left without that: the engine goes
+    std::int64_t LeftAt = Never;     ///< When it was left uninterrupted: the engine is ending
     int Breaks = 0;                  ///< How often the engine was interrupted
     bool Ended = false;
 };
@@ -86,7 +86,7 @@ std::size_t LineAt(const std::string& script, std::size_t at) {
     return static_cast<std::size_t>(std::count(script.begin(), end, '\n'));
 }
 
-/// The beginning of what is told of a box.
+/// The beginning of a message about a box.
 std::string NameOf(std::int16_t box) { return box == NoBox ? "" : BoxName(box) + ": "; }
 
 std::string Quoted(const std::string& text) {
@@ -95,17 +95,17 @@ std::string Quoted(const std::string& text) {
     return quoted + "'";
 }
 
-/// The functions of ours are found again also where a script took their folder from the path.
+/// Our functions are found again even after a script has removed their folder from the path.
 std::string AddFolder() { return "addpath(" + Quoted(engine.Folder.Path()) + ");"; }
 
-/// A break while the engine waits for a line takes effect with the next line. Where the first one
-/// doesn't help, the engine may stand in its debugger.
+/// An interrupt while the engine waits for a line takes effect with the next line. When the first
+/// one doesn't help, the engine may be in its debugger.
 void Interrupt(Job& job) {
     desktop->InterruptEngine();
     desktop->WriteEngine(job.Breaks++ == 0 ? "\n" : "dbquit\n");
 }
 
-/// What the user answers stands behind the question, as on a terminal.
+/// The user's answer follows the question, as on a terminal.
 void Ask(Job& job, const Mark& mark) {
     std::string line;
     if (mark.Kind == MarkKind::Line) {
@@ -124,7 +124,8 @@ void EndJob(Job& job) {
     job.Ended = true;
 }
 
-/// A script that neither ended nor was broken off has ended the engine, which goes in a moment.
+/// A script that neither ended nor was interrupted has made the engine quit, which it does in a
+/// moment.
 void FollowMark(Job& job, const Mark& mark) {
     switch (mark.Kind) {
         case MarkKind::Line:
@@ -142,7 +143,7 @@ void FollowMark(Job& job, const Mark& mark) {
     EndJob(job);
 }
 
-/// The answer of an engine that is gone ends with the way it went.
+/// The answer of an engine that is gone ends by saying how it ended.
 void EndWithEngine(Job& job, const EngineNews& news) {
     EndJob(job);
     engine.Answer +=
@@ -187,8 +188,8 @@ void WaitForEnd(Job& job) {
     }
 }
 
-/// A script that can't be read is told of by a line of its file, which the user has never seen: in
-/// its place stand the box and the line of that box.
+/// The engine complains about a script that it can't parse by a line of its file, which the user
+/// has never seen. That is replaced by the box and the line of that box.
 void NameBox(std::string& answer, const std::string& file, const LineBoxes& boxes) {
     const auto place = " of file " + file;
     const auto end = answer.find(place);
@@ -196,7 +197,7 @@ void NameBox(std::string& answer, const std::string& file, const LineBoxes& boxe
     const auto start = answer.rfind(ParseError, end);
     if (start == std::string::npos) return;
     const auto told = std::atoll(answer.c_str() + start + std::string_view(ParseError).size());
-    // The end of the script is told as the line behind its last one.
+    // The end of the script is reported as the line after its last one.
     const auto last = static_cast<long long>(boxes.size());
     const auto line = static_cast<std::size_t>(std::clamp(told, 1LL, last) - 1);
     auto first = line;
@@ -266,7 +267,7 @@ void LinkExecute(const std::string& script, const LineBoxes& boxes) {
 
 std::string LinkRequest() { return std::exchange(engine.Answer, ""); }
 
-/// Where the block is open in truth, the engine runs nothing of it and complains of its end.
+/// When the block really is open, the engine runs none of it and complains about the missing end.
 std::string LinkFinish(bool come) {
     const auto rest = std::exchange(engine.Kept, "");
     const auto boxes = std::exchange(engine.KeptBoxes, {});

@@ -54,7 +54,7 @@ struct FolderContents {
     std::vector<std::string> MFiles;
 };
 
-/// What an entry may be, as far as its name tells. A line of the index can't hold a line end.
+/// What an entry may be, judged by its name. A line of the index can't hold a line end.
 enum class NameKind { Other, Folder, MFile };
 
 NameKind KindOfName(std::string_view name) {

@@ -12,7 +12,7 @@ namespace quorvane {
 
 /// The M-files on the drives. A scan walks the drives and leaves what it found in the index, the
 /// file MFileIndex of the program directory, which later runs read instead. A folder with a dot in
-/// its name is left out with all that lies below it; links to folders are not followed.
+/// its name is left out with everything below it; links to folders are not followed.
 
 constexpr const char* MFileIndex = "mfiles.txt";
 
@@ -37,7 +37,7 @@ struct DriveRoot {
     char Letter;       ///< A capital
     std::string Path;  ///< With a separator at its end
 };
-/// Where the letters of the drives lead: on Windows each to its drive, elsewhere C to "/".
+/// What the letters of the drives stand for: on Windows each its drive, elsewhere C stands for "/".
 extern std::vector<DriveRoot> DriveRoots;
 
 void ResetMFileIndex();

@@ -27,13 +27,13 @@ bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
 bool IsLineEnd(char c) { return c == '\r' || c == '\n'; }
 
-/// A place in a script, with what has to be known of the text before it.
+/// A position in a script, with what must be known of the text before it.
 struct Reader {
     std::string_view Text;
     std::size_t At = 0;
     int Brackets = 0;         ///< Open "(", "[" and "{"
     bool AtLineStart = true;  ///< Nothing but blanks since the last line end
-    bool AfterValue = false;  ///< Behind a value "'" transposes, elsewhere it opens a string
+    bool AfterValue = false;  ///< After a value "'" transposes it, elsewhere it opens a string
     bool AfterDot = false;
 
     bool AtEnd() const { return At >= Text.size(); }
@@ -67,8 +67,8 @@ void SkipBlockComment(Reader& reader) {
     } while (depth > 0 && !reader.AtEnd());
 }
 
-/// A string ends with its line at the latest. A doubled quote stands for one; "\" guards the next
-/// character where the quote is double.
+/// A string ends with its line at the latest. A doubled quote stands for one; in double quotes "\"
+/// escapes the next character.
 void SkipString(Reader& reader) {
     const char quote = reader.Next();
     for (++reader.At; !reader.AtEnd() && !IsLineEnd(reader.Next()); ++reader.At) {
@@ -83,7 +83,7 @@ void SkipString(Reader& reader) {
     reader.AfterValue = true;
 }
 
-/// Behind a value a quote transposes it, but not in "disp 'text'".
+/// After a value a quote transposes it, but not in "disp 'text'".
 bool OpensString(const Reader& reader) {
     if (reader.Next() == '"' || !reader.AfterValue) return true;
     return IsBlank(reader.Text[reader.At - 1]) && IsWordPart(reader.Next(1));
@@ -108,7 +108,7 @@ void TakeCharacter(Reader& reader) {
     if ((c == ')' || c == ']' || c == '}') && reader.Brackets > 0) --reader.Brackets;
     reader.AfterDot = c == '.';
     if (IsBlank(c)) {
-        // Within "[a 'text']" a blank parts elements, so that a quote behind it opens a string.
+        // Within "[a 'text']" a blank separates elements, so that a quote after it opens a string.
         if (reader.Brackets > 0) reader.AfterValue = false;
     } else {
         reader.AfterValue =

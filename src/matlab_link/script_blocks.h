@@ -6,13 +6,13 @@
 namespace quorvane {
 
 /// True when every block that a script opens ("for", "if", "while", "switch", "try", "function" and
-/// their kin) is closed in it. Strings, comments, brackets (where "end" is an index) and fields
-/// ("x.end") are passed over. A script with an "end" too many counts as closed: it is for the
-/// engine to complain about.
+/// the like) is closed in it. Strings, comments, brackets (where "end" is an index) and fields
+/// ("x.end") are skipped. A script with an "end" too many counts as closed: the engine will
+/// complain about it.
 bool BlocksAreClosed(std::string_view script);
 
-/// Where the outermost block begins that is never closed, from 0; the script's size when there is
-/// none.
+/// The position, from 0, of the outermost block that is never closed; the script's size when there
+/// is none.
 std::size_t FindOpenBlock(std::string_view script);
 
 }  // namespace quorvane

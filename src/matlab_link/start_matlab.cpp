@@ -15,7 +15,7 @@ namespace quorvane {
 
 namespace {
 
-// Programs below "bin", the first of which that is there is started.
+// Programs in "bin"; the first one that exists is started.
 #ifdef _WIN32
 const std::vector<std::string> programs = {"matlab.exe"};
 #else

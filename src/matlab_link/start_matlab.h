@@ -3,9 +3,9 @@
 
 namespace quorvane {
 
-/// Asks where MATLAB is and starts it from there. A failing step is reported and the next one runs:
-/// a folder without the program gets two messages. The current directory is that of the program
-/// afterwards.
+/// Asks where MATLAB is and starts it from there. A failing step is reported and the next one runs,
+/// so a folder without the program gives two messages. Afterwards the current directory is the
+/// program directory.
 void mnuFileStartMatlab_Click();
 
 }  // namespace quorvane

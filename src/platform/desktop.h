@@ -21,7 +21,7 @@ struct Message {
     std::string Title = "Quorvane";
 };
 
-/// What a wait for the engine has brought.
+/// The result of a wait for the engine.
 struct EngineNews {
     std::string Bytes;     ///< What it printed since the last wait
     bool Escape = false;   ///< The user wants the script to be stopped
@@ -30,8 +30,8 @@ struct EngineNews {
     int Code = 0;
 };
 
-/// All that the program asks of the desktop it runs on. It is the one door out of the core: behind
-/// it stands the application's window system, the command line, or a test.
+/// All that the program asks of the desktop it runs on. It is the one door out of the core, to the
+/// application's window system, the command line, or a test.
 struct Desktop {
     virtual ~Desktop() = default;
 
@@ -49,8 +49,8 @@ struct Desktop {
     /// Shows the form of this name and returns when it has hidden itself. The form's record holds
     /// what the user did.
     virtual void ShowModal(std::string_view form) = 0;
-    /// Gives the focus to the worksheet of this number, whatever had it before. A worksheet that
-    /// isn't there, or that a dialog blocks, is passed over.
+    /// Gives the focus to the worksheet of this number, whatever had it before. Nothing happens
+    /// when it isn't there or a dialog blocks it.
     virtual void FocusWorksheet(int document) = 0;
 
     /// Pops up the menu of this control at the mouse pointer. Its commands work for this document,
@@ -83,9 +83,9 @@ struct Desktop {
     /// A clock that never goes back.
     virtual std::int64_t Milliseconds() = 0;
 
-    /// Where the program keeps this user's files: his data, where the launcher puts settings and
-    /// toolboxes, and what only has to outlive a run. The folder may not be there yet; "" when the
-    /// system names none.
+    /// The folders for this user's files: data, where the launcher puts settings and toolboxes, and
+    /// state, which only has to outlive a run. A folder may not exist yet; "" when the system names
+    /// none.
     virtual std::string DataFolder() = 0;
     virtual std::string StateFolder() = 0;
 
@@ -101,7 +101,7 @@ struct Desktop {
 /// The desktop in use. The main program sets it before anything else runs.
 extern Desktop* desktop;
 
-/// Asks for one line of text by InputBox, and makes it one where line ends were pasted.
+/// Asks for one line of text by InputBox; pasted line ends become blanks.
 std::string AskForLine(const std::string& prompt, const std::string& title,
                        const std::string& defaultText);
 

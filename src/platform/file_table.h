@@ -24,21 +24,20 @@ bool EndOfFile(int number);
 /// The next line without its end; error 62 at the end of the file. The text stays valid until the
 /// next read from any file.
 std::string_view LineInput(int number);
-/// As LineInput, but a comma ends the read, too, and is taken with it. Blanks and quotation marks
-/// are text like any other.
+/// As LineInput, but a comma ends the read too and is skipped. Blanks and quotation marks are text
+/// like any other.
 std::string_view InputField(int number);
-/// True when a comma ended the last read: the next one goes on in the same line.
+/// True when a comma ended the last read: the next one continues in the same line.
 bool LineGoesOn(int number);
 
 /// Nothing happens for a number that is not open.
 void CloseFile(int number);
 void CloseAllFiles();
 
-/// Replaces the file at `path` by one with this text. The text goes to a
-/// new file beside it, which takes its place when all is stored: a full disk or a kill leaves the
-/// old file whole, and a reader keeps reading the old one. A device or a pipe is written
-/// to. Error 75 when the file or its folder can't be written, 61 when the disk is full, 57 for any
-/// other failure.
+/// Replaces the file at `path` by one with this text. The text goes to a new file beside it, which
+/// replaces it once everything is stored: a full disk or a kill leaves the old file whole, and a
+/// reader keeps reading the old one. A device or a pipe is written to. Error 75 when the file or
+/// its folder can't be written, 61 when the disk is full, 57 for any other failure.
 void ReplaceFile(const std::string& path, std::string_view text);
 
 }  // namespace quorvane

@@ -24,7 +24,7 @@ struct ControlRow {
     ControlRecord Record;
     std::function<void()> Event = nullptr;
     /// TakesNumber for a text box of a number: its event waits while only the beginning of a number
-    /// is typed, until it is one or can't become one, or the user goes on to another control.
+    /// is typed, until it is one or can't become one, or the user moves to another control.
     bool Number = false;
 };
 constexpr bool TakesNumber = true;
@@ -45,11 +45,11 @@ struct Form {
     /// Runs when the user closes the window; without it the form can't be closed by the user.
     std::function<void()> Closed = nullptr;
     FormTimer Timer = {};
-    /// What the form itself shows painted, in the colour of its texts; nullptr for nothing.
+    /// What is painted on the form itself, in the colour of its texts; nullptr for nothing.
     const std::vector<DrawnShape>* Surface = nullptr;
 };
 
-/// Loads a form anew: its controls are as designed, and it is not on the screen yet.
+/// Loads a form: its controls are as designed, and it is not on the screen yet.
 template <class FormRecord>
 void LoadForm(FormRecord& form) {
     form = {};

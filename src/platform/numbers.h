@@ -11,7 +11,7 @@ namespace quorvane {
 /// with blanks around it allowed. What is numeric is what TextToNumber takes.
 bool IsNumeric(std::string_view text);
 
-/// True for what is no number yet and becomes one with a digit more ("-", ".", "1e", "-.5e+").
+/// True for what isn't a number yet but becomes one with another digit ("-", ".", "1e", "-.5e+").
 bool BeginsNumber(std::string_view text);
 
 /// The value of a numeric text; error 13 for any other text, error 6 for one beyond double.
@@ -32,15 +32,15 @@ std::string NumberText(std::int64_t number);
 /// The text without the blanks and tabs around it.
 std::string_view Trimmed(std::string_view text);
 
-/// False for the bytes of a UTF-8 character behind its first one.
+/// False for the bytes of a UTF-8 character after its first one.
 bool BeginsCharacter(char byte);
 
 /// The letters A to Z in lower or upper case; all other bytes stay, so that UTF-8 survives.
 std::string LowerCase(std::string_view text);
 std::string UpperCase(std::string_view text);
 
-/// What a field of one line holds of a text: a blank stands in place of each line end, and those at
-/// the end of the text are left out.
+/// The text for a field of one line: each line end becomes a blank, and those at the end are left
+/// out.
 std::string OneLine(std::string_view text);
 
 }  // namespace quorvane

@@ -6,9 +6,9 @@
 
 namespace quorvane {
 
-/// What stands behind the last "/" or "\"; both part a path wherever the program takes one apart.
+/// The part after the last "/" or "\"; both are separators wherever the program splits a path.
 std::string_view FileNameOf(std::string_view path);
-/// The folder in front of the last "/" or "\", without it; "" where the path has none.
+/// The folder before the last "/" or "\", without it; "" where the path has none.
 std::string_view FolderOf(std::string_view path);
 /// Joins with the separator of this platform.
 std::string JoinPath(std::string_view folder, std::string_view name);

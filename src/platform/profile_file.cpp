@@ -70,7 +70,7 @@ std::optional<std::vector<std::string>> ReadLines(const std::string& path) {
 /// The line of a key in a file, and where a new one would be inserted.
 struct Place {
     std::optional<std::size_t> Line;    ///< Of the key
-    std::optional<std::size_t> Behind;  ///< One behind the section's last key or header
+    std::optional<std::size_t> Behind;  ///< One past the section's last key or header
     std::string Value;
 };
 

@@ -14,10 +14,10 @@ namespace quorvane {
 std::string GetPrivateProfileString(std::string_view section, std::string_view key,
                                     const std::string& defaultText, const std::string& file);
 
-/// Stores a value: in place of the one that is there, else behind the last key of the section. A
-/// missing section goes to the end, a missing file is made. All other lines stay as they are, but
-/// for their ends, which become CR LF. The value goes up to the first line end or NUL in it. What
-/// can't be written is not reported; the old file then stays.
+/// Stores a value: in place of the one that is there, else after the last key of the section. A
+/// missing section is added at the end, a missing file is made. All other lines stay as they are,
+/// but for their ends, which become CR LF. The value goes up to the first line end or NUL in it.
+/// What can't be written is not reported; the old file then stays.
 void WritePrivateProfileString(std::string_view section, std::string_view key,
                                std::string_view value, const std::string& file);
 

@@ -6,9 +6,9 @@
 
 namespace quorvane {
 
-/// A desktop without a user: a question gets the refusing answer, or its default, a
-/// dialog is cancelled, and nothing is kept. Desktops without a screen derive from it and override
-/// what they answer.
+/// A desktop without a user: a question gets the refusing answer or its default, a dialog is
+/// cancelled, and nothing is stored. Desktops without a screen derive from it and override what
+/// they answer.
 struct QuietDesktop : Desktop {
     Answer MsgBox(const Message& message) override {
         switch (message.Choice) {

@@ -6,7 +6,7 @@
 
 namespace quorvane {
 
-/// The dialog with the program's name and a line of text that runs in a ring.
+/// The dialog with the program's name and a line of text that scrolls round and round.
 struct AboutForm {
     FormState Form = {.Caption = "About Quorvane"};
     Label Label1 = {.Caption = "Quorvane"};
@@ -16,7 +16,7 @@ struct AboutForm {
 extern AboutForm frmAbout;
 
 void mnuHelpAbout_Click();
-/// A tick: the first character of the line goes to its end.
+/// A tick of the timer: moves the first character of the line to its end.
 void frmAbout_Timer1_Timer();
 void frmAbout_cmdOK_Click();
 Form frmAbout_Table();

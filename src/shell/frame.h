@@ -10,8 +10,8 @@ namespace quorvane {
 void mnuFileNew_Click();
 void mnuFileOpen_Click();
 /// End the program from the frame's menu and from a worksheet's, with the help viewer. The program
-/// stays when the closing of a worksheet is refused; the frame's command has then already taken
-/// the toolbox and the results window down.
+/// stays when a worksheet refuses to close; the frame's command has then already closed the toolbox
+/// and the results window.
 void mnuFileExit_Click();
 void mnuExit_Click();
 void mnuWindowsArrange_Click();

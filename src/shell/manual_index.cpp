@@ -11,7 +11,7 @@ namespace quorvane {
 
 namespace {
 
-/// A caption without the mark of its key and the dots of a dialog.
+/// A caption without the "&" of its key and the dots that announce a dialog.
 std::string Plain(std::string_view caption) {
     std::string plain(caption);
     std::erase(plain, '&');

@@ -6,13 +6,13 @@
 
 namespace quorvane {
 
-/// Shows the preferences, and then brings every open document and the toolbox in line with them,
-/// however the dialog ended. The worksheet that gave the command is redrawn.
+/// Shows the preferences and then applies them to every open document and the toolbox, however the
+/// dialog ended. The worksheet that gave the command is redrawn.
 void mnuOptionsPrefs_Click(Worksheet& sheet);
 
 /// Loads the toolbox anew, by its new name and size.
 void frmPrefs_cmdOK_Click();
-/// Writes the settings file. The dialog stays.
+/// Writes the settings file. The dialog stays open.
 void frmPrefs_cmdSave_Click();
 Form frmPrefs_Table();
 

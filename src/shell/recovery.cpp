@@ -34,7 +34,7 @@ std::vector<std::string> WriteRecoveryFiles() {
     std::filesystem::create_directories(folder, error);
     for (int i = 1; i <= Documents.UpperBound(); ++i) {
         if (!Documents[i] || !DocumentStates[i].Modified) continue;
-        // A diagram that can't be saved, for whatever reason, is no reason to lose the next one.
+        // When one diagram can't be saved, for whatever reason, the next one still may be.
         try {
             const auto name = FreeName(folder);
             ReplaceFile(name, DocumentText(static_cast<std::int16_t>(i)) + "\r\n");

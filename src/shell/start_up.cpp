@@ -24,7 +24,7 @@ constexpr int SplashSeconds = 3;
 /// The state of the search for the settings file; Found is the value of a file's attributes.
 enum SearchFlag : int { NotAsked = 0, Asked = 1, GivenUp = 2, Found = 32 };
 
-/// The seconds go back to 0 at the full minute, and a wait over it ends early.
+/// The seconds go back to 0 at the full minute, which ends a wait early.
 void WaitForSplash() {
     const int start = desktop->ClockSeconds();
     while (std::abs(desktop->ClockSeconds() - start) < SplashSeconds) {
@@ -40,7 +40,7 @@ void AskForProgramDirectory() {
 }
 
 /// Runs one statement of the start. The first failure of the search makes the user choose a folder,
-/// any other one ends the search; the statement behind the failed one runs next.
+/// any other one ends the search; the statement after the failed one runs next.
 template <class Statement>
 void Run(int& flag, Statement&& statement) {
     try {

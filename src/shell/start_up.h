@@ -6,7 +6,7 @@
 
 namespace quorvane {
 
-/// The splash. The screen shows it while Form.Visible, and a click or a key takes it down.
+/// The splash. The screen shows it while Form.Visible; a click or a key closes it.
 struct SplashForm {
     FormState Form;
     Label lblProductName;
@@ -19,8 +19,8 @@ void frmSplash_Frame1_Click();
 void frmSplash_KeyPress();
 Form frmSplash_Table();
 
-/// Where the current directory has no settings file and the user's data folder has one, which the
-/// launcher has made, goes there.
+/// Changes to the user's data folder when the settings file that the launcher makes is there and
+/// the current directory has none.
 void GoToSettings();
 
 /// Starts the program: shows the splash for 3 seconds, finds the program directory, reads the

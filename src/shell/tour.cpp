@@ -15,7 +15,7 @@ const char* const Welcome =
     "Welcome to the Quorvane Guided Tour.\r\n\r\n"
     "Please press this panel to continue.";
 
-/// By step, from 0 on.
+/// The texts, by step from 0.
 const char* const TourTexts[] = {
     "Quorvane is the easy and visual way to write Matlab script.\r\n\r\n"
     "Please press this panel to continue.",

@@ -63,7 +63,7 @@ int RowOf(int i) {
     return (i - 1) / frmPictures.Columns;
 }
 
-/// Rows that stand closer than a button is high show it lower, so that none hides another.
+/// Rows that are closer than a button is high show it lower, so that no button hides another.
 void PlaceButton(IconButton& button, int row, int column, const Pitch& pitch) {
     const auto& origin = frmPictures.cmd[0].Place;
     button.Place.Top = origin.Top + row * pitch.Row;
@@ -237,7 +237,7 @@ void mnuOptionsToolbox_Click(Worksheet& /*sheet*/) { mnuOptionsToolbox_Click(); 
 
 void mnuOptionsCurrentToolbox_Click() {
     const auto title = AskForToolbox();
-    // The mark is the one from before the reload, which takes it off.
+    // The check mark from before the reload, which clears it.
     if (!title.empty()) TakeToolbox(title, frmMDI.mnuOptionsToolbox.Checked);
 }
 

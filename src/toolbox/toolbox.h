@@ -10,7 +10,8 @@
 
 namespace quorvane {
 
-/// A button with a face of the icon strip. Its place is screen units in what holds it.
+/// A button with a face of the icon strip. Its place is in screen units, from the corner of what
+/// holds it.
 struct IconButton {
     Area Place;
     int Picture = 0;  ///< Cell of the icon strip, 1 to 146; 0 no picture
@@ -19,7 +20,7 @@ struct IconButton {
 
 /// Width and height of a button: a cell of the strip at 15 units to a pixel.
 constexpr double IconButtonSize = 480;
-/// Keys behind these have no button.
+/// The greatest number of buttons; further keys have none.
 constexpr int MostToolboxButtons = 24;
 /// Name and pattern of toolbox files in file dialogs.
 extern const std::string ToolboxFilter;
@@ -48,8 +49,8 @@ extern PicturesForm frmPictures;
 /// buttons. The file stays open. The columns are the first digit of the size in the preferences, 3
 /// when it begins with none. Nothing happens when the window is loaded.
 void LoadToolbox();
-/// Closes the window, by the user too: the frame's mark goes off. Nothing happens when the window
-/// is not loaded.
+/// Closes the window, also for the user, and clears the frame's check mark. Nothing happens when
+/// the window is not loaded.
 void UnloadToolbox();
 /// Unloads the window and loads it again, hidden, with the reload marker set.
 void ReloadToolbox();
@@ -71,7 +72,7 @@ void mnuOptionsToolbox_Click(Worksheet& sheet);
 /// directory.
 void mnuOptionsCurrentToolbox_Click();
 void mnuOptionsCurrentToolbox_Click(Worksheet& sheet);
-/// A worksheet that becomes the active one takes over what the frame's menu shows.
+/// Copies what the frame's menu shows to a worksheet that becomes active.
 void main_Activate(Worksheet& sheet);
 
 }  // namespace quorvane

@@ -58,7 +58,7 @@ namespace {
 constexpr int PageColumns = 6;
 constexpr int PanelColumns = 3;
 constexpr double PanelPitch = 495;
-/// A drop that would raise the count this far finds no room.
+/// A drop that would raise the count to this is ignored.
 constexpr int FullCount = 26;
 constexpr int HighestCount = std::numeric_limits<std::int16_t>::max();
 constexpr std::string_view LineEnd = "\r\n";
@@ -66,7 +66,7 @@ constexpr std::string_view LineEnd = "\r\n";
 /// Number of the catalogue's key that element `Index` of the page shows, from 1.
 int CatalogueIndex(int Index) { return frmConfigToolbox.scroll.Value * PageColumns + Index; }
 
-/// The key under that number; "" behind the list's end.
+/// The key of that number; "" after the end of the list.
 std::string_view CatalogueKey(int number) {
     if (number < 1 || number > static_cast<int>(toolboxCatalogue.size())) return {};
     return toolboxCatalogue[static_cast<std::size_t>(number) - 1];
@@ -120,8 +120,8 @@ void ReadPanel(int number) {
     --count;
 }
 
-/// Puts the file that opnFileName names into the panel, whose icons are gone. One that can't be
-/// opened is passed over.
+/// Puts the file that opnFileName names into the emptied panel. One that can't be opened is
+/// ignored.
 void LoadPanel() {
     frmConfigToolbox.Count = 1;
     int number = 0;
@@ -150,13 +150,13 @@ bool AskForFile() {
         [] { frmConfigToolbox.opnFileName.Caption = desktop->OpenFileDialog(ToolboxFilter, ""); });
 }
 
-/// The place behind the next line end; the text's end when there is none.
+/// The position after the next line end; the text's end when there is none.
 std::size_t BehindLine(const std::string& text, std::size_t from) {
     const auto at = text.find(LineEnd, from);
     return at == std::string::npos ? text.size() : at + LineEnd.size();
 }
 
-/// Removes a key from the panel's text and moves the faces behind it up by one icon. The icon's
+/// Removes a key from the panel's text and moves the faces after it up by one icon. The icon's
 /// index counts the keys: in a panel that began empty it is one too high.
 void RemoveKey(int index) {
     auto& caption = frmConfigToolbox.lbltoolbox.Caption;
@@ -181,8 +181,8 @@ void SavePanel() {
                 frmConfigToolbox.lbltoolbox.Caption + std::string(LineEnd));
 }
 
-/// Saves, when that fails once more with all files closed: the toolbox may hold the file open.
-/// False when that has failed, too, and the user knows.
+/// Saves; when that fails, tries once more with all files closed, since the toolbox may hold the
+/// file open. False when that fails too, which the user has then been told.
 bool SavePanelOrTell() {
     if (Attempt(SavePanel)) return true;
     CloseAllFiles();
@@ -262,7 +262,7 @@ void frmConfigToolbox_chkReload_Click() {
 }
 
 void frmConfigToolbox_opnFileName_Click() {
-    // The only option there is: a second click doesn't take it off.
+    // It is the only option: a second click doesn't clear it.
     frmConfigToolbox.opnFileName.Value = true;
     AskForFile();
 }

@@ -49,7 +49,7 @@ void frmConfigToolbox_cmdButton_MouseDown(int Index, int Button);
 void frmConfigToolbox_chkClear_Click();
 void frmConfigToolbox_chkReload_Click();
 void frmConfigToolbox_opnFileName_Click();
-/// Saves the panel and loads the toolbox anew. A failure is tried once more with all files closed;
+/// Saves the panel and reloads the toolbox. A failure is tried once more with all files closed;
 /// when that fails too, the user is told and the dialog stays.
 void frmConfigToolbox_cmdOK_Click();
 void frmConfigToolbox_cmdCancel_Click();

@@ -28,7 +28,7 @@ RuntimeError ErrorOf(const std::exception_ptr& thrown) {
     }
 }
 
-/// Saves what is open, says what happened and where it was saved, and ends.
+/// Saves the changed documents, tells the error and where they were saved, and ends the program.
 [[noreturn]] void EndAfter(const RuntimeError& error) {
     QString text = QString("Run-time error '%1':\n%2")
                        .arg(error.Number)

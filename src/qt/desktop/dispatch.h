@@ -8,18 +8,17 @@ class QWidget;
 namespace quorvane {
 
 /// Runs one handler and shows the records afterwards. Every event of the screen comes through here.
-/// A handler runs to its end before the next one starts: an event that comes meanwhile, by whatever
-/// way, is dropped. While a handler shows a dialog, the events of that dialog come in, and no
-/// others; they name the widget that they come from.
-/// Whatever the handler lets out is told as a run-time error, 7 or 51 where it is none, to the user
-/// and ends the program.
+/// A handler runs to its end before the next one starts: an event that arrives meanwhile, by
+/// whatever way, is dropped. While a handler shows a dialog, only the events of that dialog are
+/// accepted; they name the widget that they come from. Whatever the handler lets out is told as a
+/// run-time error, 7 or 51 where it is none, to the user and ends the program.
 void Dispatch(const std::function<void()>& handler, const QWidget* source = nullptr);
 
-/// The same for a window that takes a new size or state or comes to the front: that may come at any
+/// The same for a window's new size or state, or its coming to the front: that may happen at any
 /// time and disturbs no handler.
 void DispatchLayout(const std::function<void()>& handler);
 
-/// Lets the events of a dialog in, as long as this lives.
+/// Accepts the events of a dialog, as long as this lives.
 class DialogScope {
 public:
     DialogScope();

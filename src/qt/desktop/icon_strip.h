@@ -11,9 +11,9 @@ namespace quorvane {
 /// file gives a null pixmap.
 QPixmap CellPixmap(int cell, int pixels, qreal devicePixelRatio);
 
-/// What the cells are drawn on: light, since their lines are dark.
+/// The ground of the cells: light, since their lines are dark.
 constexpr QColor PaperColor(0xFB, 0xFB, 0xF8);
-/// The same on paper, which shows on windows of any colour.
+/// The same on its light ground, for windows of any colour.
 QPixmap CellOnPaper(int cell, int pixels, qreal devicePixelRatio);
 
 }  // namespace quorvane

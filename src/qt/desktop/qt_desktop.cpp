@@ -69,7 +69,7 @@ const ButtonsRowQt buttonSets[] = {
      QMessageBox::Abort},
 };
 
-/// The desktop's own order of buttons, which goes by what they mean, gives way to that of the row.
+/// The desktop orders buttons by their meaning; this puts them in the order of the row.
 void AddButtons(QMessageBox& box, const ButtonsRowQt& row) {
     for (const auto button : row.Shown) box.addButton(button);
     auto* buttons = box.findChild<QDialogButtonBox*>()->layout();
@@ -93,7 +93,7 @@ Answer AnswerOf(int button) {
     }
 }
 
-/// "Name (*.qvm)|*.qvm|..." as the dialog wants it.
+/// The filters "Name (*.qvm)|*.qvm|..." in the dialog's form.
 QStringList NameFilters(const std::string& filter) {
     const auto parts = ToScreen(filter).split('|');
     QStringList names;
@@ -104,8 +104,8 @@ QStringList NameFilters(const std::string& filter) {
     return names;
 }
 
-/// Where a file dialog begins: toolboxes lie in the program directory, all else where the last such
-/// file lay, at first with the user's documents.
+/// The folder in which a file dialog begins: the program directory for toolboxes; for other files
+/// that of the last one, at first the user's documents.
 QString& StartFolder(bool ofToolbox) {
     static QString toolboxes;
     static auto documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
@@ -113,8 +113,8 @@ QString& StartFolder(bool ofToolbox) {
     return ofToolbox ? toolboxes : documents;
 }
 
-/// Beside the user's own places stand the examples, which the program's launcher has put into the
-/// program directory.
+/// Adds the examples, which the launcher has put into the program directory, to the places in the
+/// dialog's side bar.
 void OfferPlaces(QFileDialog& dialog, const QString& start) {
     dialog.setDirectory(QDir(start).exists() ? start : QDir::homePath());
     auto places = dialog.sidebarUrls();
@@ -143,7 +143,7 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
     if (mode == QFileDialog::AcceptSave) {
         takeEnding(filters.value(0));
         QObject::connect(&dialog, &QFileDialog::filterSelected, takeEnding);
-        // The file of a toolbox is only looked for, not written, also where a save dialog asks.
+        // A toolbox file is only chosen here, not written, even in a save dialog.
         dialog.setOption(QFileDialog::DontConfirmOverwrite, filters.value(0).contains("*.tlb"));
     }
     auto& start = StartFolder(filter.find("*.tlb") != std::string::npos);
@@ -157,7 +157,8 @@ std::string AskForFile(QFileDialog::AcceptMode mode, const std::string& filter,
     return ToCore(file);
 }
 
-/// The program's folder in the one that the variable names, else in that place below the home.
+/// The program's folder below the one that the variable names, by default below that place in the
+/// home; "" when neither is set.
 std::string UserFolder(const char* variable, std::string_view belowHome) {
     const char* folder = std::getenv(variable);
     if (folder && *folder) return JoinPath(folder, "quorvane");
@@ -257,7 +258,7 @@ void QtDesktop::SetClipboardText(const std::string& text) {
 }
 
 int QtDesktop::ClockSeconds() {
-    // Waiting by the clock must not keep the windows from being painted.
+    // The windows must be painted while the program waits by the clock.
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     QThread::msleep(10);
     return QTime::currentTime().second();

@@ -25,7 +25,7 @@ inline QString ToScreen(std::string_view text) {
 }
 inline std::string ToCore(const QString& text) { return text.toStdString(); }
 
-/// The screen's shape of a pointer number; the default shape for one that it doesn't know.
+/// The screen's shape of a pointer number; the default shape for an unknown one.
 inline Qt::CursorShape PointerShape(int pointer) {
     switch (pointer) {
         case PointerCross: return Qt::CrossCursor;

@@ -31,7 +31,7 @@ IconTile::IconTile(const QString& name, QWidget* holder) : QLabel(holder) {
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
     setAlignment(Qt::AlignCenter);
-    // The first icon put behind a loaded file lies on the file's last one and hides it.
+    // The first icon that is added to a loaded file lies on the file's last one and hides it.
     setAutoFillBackground(true);
 }
 
@@ -162,7 +162,8 @@ void ConfigToolboxView::RefreshPanel() {
     }
 }
 
-/// Goes from an icon of the catalogue to another one; beyond the page's edge the page moves on.
+/// Moves the focus from an icon of the catalogue to another one; at the page's edge the page
+/// scrolls.
 void ConfigToolboxView::Walk(int tile, int step) {
     const int to = tile + step;
     if (to >= 1 && to <= PageTiles) {

@@ -20,7 +20,7 @@ public:
     std::function<void()> Entered;  ///< The pointer moves over it, or the focus comes to it
     std::function<void(Qt::MouseButton)> Pressed;
     std::function<void()> Chosen;  ///< Enter
-    QByteArray Carried;            ///< What a drag of it carries; none when empty
+    QByteArray Carried;            ///< The data of a drag; empty when it can't be dragged
 
 protected:
     void mouseMoveEvent(QMouseEvent* event) override;
@@ -57,7 +57,7 @@ private:
     QWidget* panel_;
     std::vector<IconTile*> catalogue_;
     std::vector<IconTile*> icons_;  ///< Of the panel, by their index
-    int turned_ = 0;                ///< What the wheel has turned short of a row
+    int turned_ = 0;                ///< Turns of the wheel that don't make a row yet
 };
 
 }  // namespace quorvane

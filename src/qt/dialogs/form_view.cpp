@@ -69,8 +69,8 @@ void Show(const Label& record, QWidget* control) {
     control->setVisible(record.Visible);
 }
 
-/// The user goes on typing where the caret stands. What comes into a field that the user has
-/// emptied is selected, so that the next key takes its place.
+/// The caret stays where the user is typing. What appears in a field that the user has emptied is
+/// selected, so that the next key replaces it.
 void ShowText(QLineEdit* line, const QString& text) {
     if (line->text() == text) return;
     const bool isEmptied = line->text().isEmpty() && line->hasFocus();
@@ -101,7 +101,7 @@ void Show(const CheckBox& record, QWidget* control) {
     control->setEnabled(record.Enabled);
 }
 
-/// A caption has no key of its own: each "&" in it shows.
+/// A caption has no shortcut: each "&" in it is shown.
 void ShowCaption(const QString& caption, QRadioButton* option) {
     auto text = caption;
     if (HasGreatestWidth(option)) {
@@ -121,7 +121,7 @@ void Show(const OptionButton& record, QWidget* control) {
     control->setEnabled(record.Enabled);
 }
 
-/// A list shows the text of the record in its first row, and what can be chosen below it.
+/// A drop-down list shows the record's text in its first row and the choices below it.
 void ShowList(const ComboBox& record, QListWidget* list) {
     list->clear();
     list->addItem(ToScreen(record.Text));
@@ -129,8 +129,7 @@ void ShowList(const ComboBox& record, QListWidget* list) {
     for (const auto& item : record.List) list->addItem(ToScreen(item));
 }
 
-/// An entry that is chosen goes into an editable box's text, where it stands already while the user
-/// types it.
+/// Puts a chosen entry into an editable box's text, unless the user is typing it there.
 void ShowChoice(QComboBox* combo, const QString& text) {
     const int index = combo->findText(text);
     auto* line = combo->lineEdit();
@@ -283,8 +282,7 @@ FormView::FormView(const Form& form, QWidget* parent) : QDialog(parent), form_(f
 
 FormView::~FormView() { openForms.removeOne(this); }
 
-/// The event of a field in which a number was being typed runs before that of the control to which
-/// the user has gone on.
+/// The pending event of a number field runs before that of the control that the user goes to next.
 void FormView::Run(const ControlRow& row) {
     Dispatch(
         [&] {
@@ -370,14 +368,14 @@ void FormView::Refresh() {
 }
 
 /// Escape presses Cancel where a form has it, or closes a form that can be closed, and does nothing
-/// elsewhere: no box dialog can be left without an answer.
+/// elsewhere: a box's dialog can't be left without an answer.
 void FormView::reject() {
     if (auto* cancel = findChild<QPushButton*>("cmdCancel")) cancel->click();
     if (form_.Closed) Dispatch(form_.Closed, this);
 }
 
-/// Enter is a choice, so that it does nothing where nothing is chosen; in a list of folders it goes
-/// into one.
+/// Enter confirms a choice, so it does nothing while nothing is chosen; in a list of folders it
+/// opens one.
 void FormView::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     const bool isTaken = qobject_cast<QListWidget*>(focusWidget()) || LacksSelection(form_);
@@ -393,7 +391,7 @@ void FormView::paintEvent(QPaintEvent* event) {
     PaintShapes(painter, shapes);
 }
 
-/// The arrow keys choose among option buttons also where none is on yet.
+/// The arrow keys choose among option buttons even when none is on yet.
 bool FormView::eventFilter(QObject* watched, QEvent* event) {
     const bool isKey = event->type() == QEvent::KeyPress;
     const int key = isKey ? static_cast<QKeyEvent*>(event)->key() : 0;
@@ -406,7 +404,7 @@ bool FormView::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-/// The first control gets the focus; its text is selected, so that what is typed takes its place.
+/// The first control gets the focus; its text is selected, so that typing replaces it.
 void FormView::FocusFirst() {
     const auto takes = [this](const QWidget* control) {
         return control->isVisibleTo(this) && control->isEnabled() &&
@@ -427,8 +425,7 @@ void FormView::showEvent(QShowEvent* event) {
     if (form_.Activated) QMetaObject::invokeMethod(this, &FormView::Activate, Qt::QueuedConnection);
 }
 
-/// What a form does by itself lets nothing else in, so that the form has to be on the screen
-/// before.
+/// Activated runs as a handler and drops other events, so the form must be on the screen before it.
 void FormView::Activate() {
     const QDeadlineTimer patience(500);
     while (!windowHandle()->isExposed() && !patience.hasExpired()) {

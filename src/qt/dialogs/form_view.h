@@ -16,7 +16,7 @@ class FormView : public QDialog {
 public:
     FormView(const Form& form, QWidget* parent);
     ~FormView() override;
-    /// Shows the records; a form that has hidden itself ends.
+    /// Shows the records; closes when the form has hidden itself.
     virtual void Refresh();
 
 protected:

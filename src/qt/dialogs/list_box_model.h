@@ -7,8 +7,8 @@
 
 namespace quorvane {
 
-/// The entries of a list box. They become text of the screen one by one, as they are looked at, so
-/// that a list of many thousands is there at once.
+/// The entries of a list box. Each is converted when it is shown, so that a list of many thousands
+/// opens at once.
 class ListBoxModel : public QAbstractListModel {
 public:
     using QAbstractListModel::QAbstractListModel;
@@ -16,7 +16,7 @@ public:
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
-    /// What is typed finds an entry by its beginning, that of a path by the file name, too.
+    /// Typing finds an entry by its beginning, a path by that of its file name too.
     QModelIndexList match(const QModelIndex& start, int role, const QVariant& value, int hits,
                           Qt::MatchFlags flags) const override;
 

@@ -43,7 +43,7 @@ int CodeOf(int key) {
     }
 }
 
-/// What a grid does by itself on an arrow key, where the handler has not moved that way already.
+/// What a grid does by itself on an arrow key, unless the handler has moved that way already.
 void MoveInGrid(int code, int columnBefore) {
     auto& grid = frmMatrix.grid;
     if (code == Up && grid.Row > 1) --grid.Row;
@@ -123,7 +123,7 @@ bool MatrixDialog::eventFilter(QObject* watched, QEvent* event) {
     if (watched != grid_ || event->type() != QEvent::KeyPress) {
         return QDialog::eventFilter(watched, event);
     }
-    // Both together are AltGr, which makes characters.
+    // Both together are AltGr, which types characters.
     const auto* key = static_cast<QKeyEvent*>(event);
     const auto held = key->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     if (held == Qt::ControlModifier || held == Qt::AltModifier) return false;

@@ -15,7 +15,7 @@ namespace quorvane {
 
 namespace {
 
-/// A box at small scale. Its edges may lie between pixels.
+/// A box at small scale; its edges needn't be on whole pixels.
 class PageBox : public QWidget {
 public:
     PageBox(int number, const BoxControl& box, QWidget* dialog)

@@ -39,8 +39,8 @@ void PlaceIcons(const QList<QMdiSubWindow*>& icons, int top) {
     }
 }
 
-/// Each window lies lower and further to the right than the one behind it, so that all titles show;
-/// at the edge they begin anew.
+/// Each window is lower and further to the right than the one behind it, so that all titles show;
+/// at the edge they start again.
 void Cascade(const QList<QMdiSubWindow*>& windows, const QRect& space) {
     constexpr int share = 4;  // of which a window takes three
     const QSize size = space.size() * (share - 1) / share;
@@ -54,8 +54,8 @@ void Cascade(const QList<QMdiSubWindow*>& windows, const QRect& space) {
     }
 }
 
-/// As many columns as leave the windows wider than high, the later ones with a window more where
-/// it doesn't come out even.
+/// As many columns as keep the windows wider than high; when they don't come out even, the last
+/// columns have one window more.
 void Tile(const QList<QMdiSubWindow*>& windows, const QRect& space) {
     const int count = static_cast<int>(windows.size());
     const int columns = static_cast<int>(std::sqrt(count));
@@ -71,7 +71,7 @@ void Tile(const QList<QMdiSubWindow*>& windows, const QRect& space) {
     }
 }
 
-/// A worksheet's window, which is closed by the rules of its document.
+/// A worksheet's window; its document decides whether it closes.
 class WorksheetWindow : public QMdiSubWindow {
 public:
     explicit WorksheetWindow(WorksheetView* view) : view_(view) {
@@ -128,7 +128,7 @@ FrameView::FrameView() {
     Refresh();
 }
 
-/// The area reports the end of its windows after this has been destroyed.
+/// The area reports the removal of its windows after this has been destroyed.
 FrameView::~FrameView() {
     disconnect(area_, nullptr, this, nullptr);
     RefreshScreen = [] {};
@@ -164,8 +164,8 @@ void FrameView::CloseMissing() {
     }
 }
 
-/// A window that opens or closes here takes a size or comes to the front, which are events: what
-/// they change is shown in another round.
+/// A window that opens or closes here gets a size or comes to the front, which are events; another
+/// round shows what they change.
 void FrameView::Refresh() {
     isStale_ = true;
     if (refreshing_) return;
@@ -202,7 +202,7 @@ void FrameView::ShowMenus() {
     const bool ofDocument = activeDocument > 0;
     if (!showsAny_ || showsDocumentMenus_ != ofDocument) {
         menuBar()->clear();
-        // The shortcuts of menus that hang on no bar don't work.
+        // Shortcuts of menus that aren't in a bar don't work.
         const auto& set = ofDocument ? documentMenus_ : frameMenus_;
         for (auto* menu : set.Menus) menuBar()->addMenu(menu);
         showsAny_ = true;
@@ -216,7 +216,7 @@ void FrameView::ShowMenus() {
     }
 }
 
-/// The open worksheets stand below the commands of the Windows menu.
+/// Lists the open worksheets below the commands of the Windows menu.
 void FrameView::ListWindows() {
     auto* menu = findChild<QMenu*>("mnuWindowsMenu");
     const auto windows = area_->subWindowList();
@@ -240,7 +240,7 @@ void FrameView::ListWindows() {
     }
 }
 
-/// A worksheet of the list comes to the front, also out of its icon.
+/// Brings a worksheet of the list to the front, even when it is minimised.
 void FrameView::Choose(int listed) {
     const auto windows = area_->subWindowList();
     if (listed >= windows.size()) return;
@@ -266,7 +266,7 @@ void FrameView::PopupMenu(const QString& control, int document) {
     auto* menu = findChild<QMenu*>(control + "Menu");
     if (!menu) return;
     poppedDocument = document;
-    // An entry is chosen when the menu has gone, but before what is queued then.
+    // An entry is triggered after the menu has closed, but before what is queued at that point.
     connect(
         menu, &QMenu::aboutToHide, this,
         [this] {

@@ -22,7 +22,7 @@ class FrameView : public QMainWindow {
 public:
     FrameView();
     ~FrameView() override;
-    /// Shows the records on every window: worksheets come and go as the documents do.
+    /// Shows the records on every window; makes and removes worksheets as the documents say.
     void Refresh();
     void Arrange(int how);
     /// Gives the focus to the worksheet of this document, if it is there.

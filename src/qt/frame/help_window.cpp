@@ -69,9 +69,9 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
     bar->addWidget(search_);
     connect(search_, &QLineEdit::returnPressed, this, &HelpWindow::FindNext);
     connect(contents_, &QTreeWidget::currentItemChanged, this, &HelpWindow::Read);
-    // Also the page that is chosen already, to come back to its beginning.
+    // Also for the page that is chosen already, to return to its beginning.
     connect(contents_, &QTreeWidget::itemClicked, this, &HelpWindow::Read);
-    // There from the start: coming later it would cover what a search has just found.
+    // Always shown: appearing later, it would cover what a search has just found.
     statusBar()->setSizeGripEnabled(false);
     resize(920, 680);
 }
@@ -94,7 +94,7 @@ void HelpWindow::ShowText(const QString& text) {
     showsManual_ = text == manual_;
 }
 
-/// A page that is chosen while the text tells how to use the help brings the manual back.
+/// Choosing a page while the help on help is shown brings the manual back.
 void HelpWindow::Read(const QTreeWidgetItem* page) {
     if (!page) return;
     if (!showsManual_) ShowText(manual_);

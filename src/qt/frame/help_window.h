@@ -34,8 +34,8 @@ private:
     bool showsManual_ = false;
 };
 
-/// Hands a command of the program to the viewer, which comes when it is first needed. A file that
-/// can't be read reports nothing.
+/// Passes a command of the program to the viewer, which is made when it is first needed. A file
+/// that can't be read is not reported.
 void RunHelpCommand(const std::string& file, int command);
 
 }  // namespace quorvane

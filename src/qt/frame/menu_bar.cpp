@@ -21,7 +21,7 @@ QString ActionName(const Row& row) {
     return row.Index < 0 ? name : QString("%1(%2)").arg(name).arg(row.Index);
 }
 
-/// Walks a table of rows by their depth; `choose` is what an entry with a command does.
+/// Makes menus from a table of rows by their depth; `choose` runs an entry's command.
 template <class Row, class Enabled, class Choose>
 MenuSet MakeMenus(const std::vector<Row>& rows, QWidget* parent, Enabled enabled, Choose choose) {
     MenuSet set;

@@ -7,7 +7,7 @@ class QLabel;
 
 namespace quorvane {
 
-/// The splash: the program's picture, name and version. A click or a key takes it down.
+/// The splash: the program's picture, name and version. A click or a key closes it.
 class SplashView : public QWidget {
 public:
     SplashView();

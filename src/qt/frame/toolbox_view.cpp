@@ -15,7 +15,7 @@ namespace quorvane {
 
 namespace {
 
-/// What the record's size counts beyond the buttons: the window's frame and title.
+/// The part of the record's size for the window's frame and title.
 constexpr double FrameWidth = 70;
 constexpr double FrameHeight = 360;
 /// Where the toolbox comes first: from the frame's right and upper edge, clear of the menus and of
@@ -41,7 +41,7 @@ void ToolboxView::Refresh() {
     if (size() != inner && inner.isValid()) resize(inner);
     following_ = false;
     RefreshButtons();
-    // A task bar gives an entry of its own to what comes up before the window that it belongs to.
+    // A task bar gives a window its own entry when it appears before the one that it belongs to.
     const bool shows = form.Form.Visible && parentWidget()->isVisible();
     if (isVisible() == shows) return;
     if (!placed_) {

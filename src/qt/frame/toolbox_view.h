@@ -23,7 +23,7 @@ private:
 
     std::vector<QToolButton*> buttons_;  ///< By their index; nullptr where there is none
     bool following_ = false;             ///< The size comes from the record, not from the user
-    bool placed_ = false;                ///< It was on the screen before, and stays where it was
+    bool placed_ = false;                ///< It was on the screen before and keeps its place
 };
 
 }  // namespace quorvane

@@ -26,7 +26,7 @@ constexpr int FileNotFound = 53;
 constexpr int WaitMilliseconds = 200;
 constexpr int ShowMilliseconds = 100;
 constexpr int IdleMilliseconds = 300;
-/// What comes while nobody waits is kept up to this many bytes.
+/// Output that arrives while nobody waits is kept up to this many bytes.
 constexpr qint64 UnreadLimit = 1 << 20;
 
 /// With a screen, an Octave that draws by Qt is preferred to the one without windows: its figures
@@ -39,7 +39,7 @@ QString WithFigures(const QString& program) {
                                                                                : program;
 }
 
-/// To the engine and all that it runs; `group` is the number of the engine.
+/// Signals the engine and all that it runs; `group` is the engine's process number.
 void Signal(qint64 group, int signal) {
 #ifdef Q_OS_UNIX
     if (group > 0) ::kill(static_cast<pid_t>(-group), signal);
@@ -80,14 +80,14 @@ MatlabProcess::MatlabProcess() {
 #endif
     connect(&process_, &QProcess::readyRead, this, &MatlabProcess::Came);
     connect(&process_, &QProcess::finished, this, &MatlabProcess::Came);
-    // It changes no record, so that it doesn't stand in the way of a handler or a dialog.
+    // It changes no record, so it may run beside a handler or a dialog.
     connect(&idle_, &QTimer::timeout, this, LookAfterFigures);
     shown_.start();
 }
 
 MatlabProcess::~MatlabProcess() { Stop(); }
 
-/// An idle engine ends when its input does; what is left of its group then is killed.
+/// An idle engine ends when its input is closed; what is then left of its group is killed.
 void MatlabProcess::Stop() {
     if (!IsRunning()) return;
     const auto group = process_.processId();

@@ -40,7 +40,7 @@ private:
     QProcess process_;
     QEventLoop* waiting_ = nullptr;  ///< The loop of the wait
     bool escape_ = false;            ///< Escape was pressed in this wait
-    QTimer idle_;                    ///< Lets an idle engine look after its figures
+    QTimer idle_;                    ///< Lets an idle engine update its figures
     QElapsedTimer shown_;            ///< Since the windows last took over the records
 };
 

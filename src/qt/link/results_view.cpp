@@ -15,7 +15,7 @@
 
 namespace quorvane {
 
-// As a dialog it stays above the frame.
+// A dialog, so that it stays above the frame.
 ResultsView::ResultsView(QWidget* frame)
     : QWidget(frame, Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint) {
     setObjectName("frmTextResults");
@@ -59,13 +59,13 @@ void ResultsView::Refresh() {
     setVisible(form.Form.Visible);
 }
 
-/// It comes up where it hides the least of the worksheets: at the lower right of the frame.
+/// Opens at the lower right of the frame, where it hides least of the worksheets.
 void ResultsView::MoveIntoCorner() {
     constexpr QPoint margin(24, 48);
     move(parentWidget()->frameGeometry().bottomRight() - rect().bottomRight() - margin);
 }
 
-/// The end of the log stays in sight, unless the user has gone up in it.
+/// Keeps the end of the log in view, unless the user has scrolled up.
 void ResultsView::Grow() {
     const auto& log = frmTextResults.txt.Text;
     if (log.size() == shown_.size() && log == shown_) return;

@@ -8,8 +8,8 @@ class QPlainTextEdit;
 
 namespace quorvane {
 
-/// The window of what was sent to MATLAB and what it answered, beside the frame. The log grows at
-/// its end, so that only what is new is put into the text.
+/// The window of what was sent to MATLAB and what it answered, beside the frame. The log only grows
+/// at its end, so only the new part is appended to the text.
 class ResultsView : public QWidget {
 public:
     explicit ResultsView(QWidget* frame);

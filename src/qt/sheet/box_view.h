@@ -30,7 +30,7 @@ private:
 
     int document_;
     int number_;
-    std::string type_;  ///< The box type that the accessible name tells
+    std::string type_;  ///< The box type in the accessible name
     int picture_ = -1;
     int pointer_ = -1;
     bool dragAutomatic_ = false;

@@ -5,12 +5,13 @@
 
 namespace quorvane {
 
-/// The button and shift numbers that the handlers know, of one button and of all that are held.
+/// The handlers' numbers for a mouse button, for all buttons that are held, and for the modifier
+/// keys.
 int ButtonNumber(Qt::MouseButtons buttons);
 int ShiftNumber(Qt::KeyboardModifiers modifiers);
 
-/// The type of what is dragged within this program. Another Quorvane, whose numbers mean something
-/// else here, has another type.
+/// The MIME type of a drag within this process. Box numbers mean nothing to another Quorvane, which
+/// has another type.
 inline const QString BoxDrag = "box";  ///< A box of a worksheet; the data is its number
 QString DragType(const QString& what);
 

@@ -31,8 +31,8 @@ QPolygonF Slice(const DrawnShape& pie) {
 }
 
 /// Lines along an axis, as those of arrows are, are filled as rectangles: that costs a third of
-/// what a pen does. A vertical one ends on a whole pixel, as boxes do, so that none looks out from
-/// behind its box on a finer screen.
+/// what a pen does. A vertical one ends on a whole pixel, as boxes do, so that on a finer screen
+/// none shows past the edge of its box.
 void PaintLine(QPainter& painter, const DrawnShape& line, const QColor& color) {
     const QPointF from = QPointF(line.X1, line.Y1) / UnitsPerPixel;
     const QPointF to = QPointF(line.X2, line.Y2) / UnitsPerPixel;

@@ -66,7 +66,7 @@ void SurfaceView::Refresh() {
     if (cursor().shape() != shape) setCursor(shape);
 }
 
-/// Only the edges of the band are painted, and so only they are painted anew.
+/// Only the edges of the band are painted, so only they are repainted.
 void SurfaceView::UpdateBand(const QRect& band) {
     if (band.isEmpty()) return;
     constexpr int margin = 2;
@@ -160,7 +160,7 @@ void SurfaceView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_Enter:
         case Qt::Key_Space: {
             const auto at = MovePointer({});
-            // What the toolbox has fired is taken up by the pointer over the sheet.
+            // Moving the pointer over the sheet runs the command that the toolbox has fired.
             Dispatch([&] {
                 main_MouseMove(Sheet(), 0, 0, ToUnits(at.x()), ToUnits(at.y()));
                 main_MouseDown(Sheet(), LeftButton, 0, ToUnits(at.x()), ToUnits(at.y()));

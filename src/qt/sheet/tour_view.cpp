@@ -31,8 +31,8 @@ TourView::TourView(int document, QWidget* parent) : QLabel(parent), document_(do
     hide();
 }
 
-/// The panel lies at the lower edge of the sheet, in its middle. On a low sheet it takes the whole
-/// width, and its text becomes as small as it has to.
+/// Puts the panel in the middle of the sheet's lower edge. On a low sheet it takes the whole width,
+/// and its text shrinks until it fits.
 void TourView::Fit(const QSize& sheet) {
     int gap = Gap;
     int width = qMin(Widest, sheet.width() - 2 * gap);

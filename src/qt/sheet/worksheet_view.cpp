@@ -116,8 +116,8 @@ void WorksheetView::resizeEvent(QResizeEvent*) {
     });
 }
 
-/// A notch of the wheel moves the sheet by as much on both axes; with Shift it moves sideways. The
-/// rest of a fine wheel's turn waits for the next.
+/// A notch of the wheel moves the sheet by as much on both axes; with Shift it moves sideways. What
+/// a fine wheel turns beyond a whole unit counts with its next turn.
 void WorksheetView::wheelEvent(QWheelEvent* event) {
     auto turn = event->angleDelta();
     if (event->modifiers() & Qt::ShiftModifier && turn.x() == 0) turn = turn.transposed();
@@ -136,7 +136,7 @@ bool WorksheetView::eventFilter(QObject* watched, QEvent* event) {
     return true;
 }
 
-/// What the sheet and its boxes leave: the keys that scroll, with Shift sideways.
+/// The keys that the sheet and its boxes don't use scroll, with Shift sideways.
 void WorksheetView::keyPressEvent(QKeyEvent* event) {
     auto* bar = event->modifiers() & Qt::ShiftModifier ? scrH_ : scrV_;
     const int page = static_cast<int>(

@@ -47,7 +47,7 @@ private:
     QWidget* corner_;
     QLabel* bubble_;
     TourView* tour_;
-    QPoint turned_;                ///< What the wheel has turned that makes no whole unit yet
+    QPoint turned_;                ///< Turns of the wheel that don't make a whole unit yet
     std::vector<BoxView*> boxes_;  ///< By box number; nullptr where there is none
 };
 
