@@ -25,7 +25,7 @@ void CheckOne(Check& check, int number) {
     const auto* row = FindTroubledType(type);
     if (!FindEmissionRow(type)) {
         ReportStop(check, number, "No script is known for this type: the run stops here and asks",
-                   row ? InPlace(row->Function) : "Delete it and make it anew from the menu");
+                   row ? InPlace(row->Function) : "Delete it and make it again from the menu");
         return;
     }
     if (!row) CheckEntries(check, number);
@@ -46,12 +46,12 @@ void CheckWaiting(Check& check, const TrialEnd& end) {
         const Box& box = BoxOrFree(waiting.Box);
         if (waiting.Feeder == 0) {
             Report(check, waiting.Box, stop + OwnReason(box),
-                   "Let it come before the other boxes that wait, or behind them, or delete it");
+                   "Put it before or after the other boxes that wait, or delete it");
         } else {
             Report(check, waiting.Box, stop + "it waits for " + Named(waiting.Feeder),
                    box.BoxType == "End If"
                        ? "Give each arm of a branch an End If of its own"
-                       : "Lead the arrows so that what it waits for comes before it");
+                       : "Draw the arrows so that what it waits for comes before it");
         }
     }
 }
@@ -80,7 +80,7 @@ void CheckLeftOut(Check& check, const TrialEnd& end) {
         if (IsPassive(Boxes[box]) || !IsReached(check, box)) continue;
         if (end.Written[static_cast<std::size_t>(box)]) continue;
         Report(check, box, "It is left out of the script: its block is closed before its turn",
-               "Lead an arrow from it, or from what it leads to, to the box that closes the block");
+               "Draw an arrow from it, or from what it leads to, to the box that closes the block");
     }
 }
 

@@ -58,7 +58,7 @@ std::vector<int> CheckInside(Check& check, Blocks& blocks, int number, ExitRange
         ReportStop(
             check, number,
             "No arrow leads into its block" + where + ": the run ends here and leaves out the rest",
-            "Lead an arrow to the first box of the block");
+            "Draw an arrow to the first box of the block");
         return {};
     }
     auto closers = blocks.Closers(number, exits);
@@ -66,7 +66,7 @@ std::vector<int> CheckInside(Check& check, Blocks& blocks, int number, ExitRange
         ReportStop(check, number,
                    "Its block is never closed" + where + ": no arrow leads to \"" +
                        std::string(CloserOf(box.BoxType)) + "\"",
-                   "Close it with such a box behind the last one of the block");
+                   "Close it with such a box after the last one of the block");
     }
     return closers;
 }
@@ -86,8 +86,8 @@ std::vector<int> CheckBlock(Check& check, Blocks& blocks, int number) {
     // that of another arm to come.
     for (const int each : blocks.Inside(number, {1, 1})) {
         if (!IsSubroutineCall(Boxes[each].BoxType)) continue;
-        Report(check, each, "The branch that it stands in ends in \"else\" in place of \"end\"",
-               "Call the subroutine before the branch or behind it");
+        Report(check, each, "The branch around it ends in \"else\" in place of \"end\"",
+               "Call the subroutine before or after the branch");
     }
     return closers;
 }
@@ -110,10 +110,9 @@ void CheckCall(Check& check, int number) {
     }
     const int feeder = box.BoxIn[1];
     if (IsThere(feeder) && Boxes[feeder].BoxOut[1] != number) {
-        Report(
-            check, number,
-            "Its result goes to the first box behind " + Named(feeder) + ", which is another one",
-            "Make this arrow the first one of " + BoxName(feeder));
+        Report(check, number,
+               "Its result goes to the first box after " + Named(feeder) + ", which is another one",
+               "Make this arrow the first one of " + BoxName(feeder));
     }
 }
 
@@ -167,10 +166,10 @@ void CheckUnreached(Check& check, int number) {
     } else if (isFedBy("Pickup")) {
         Report(check, number,
                "Only a Pickup feeds it, which starts nothing: it is left out of the script",
-               "Lead an arrow to it from the box after which it is to be written");
+               "Draw an arrow to it from the box after which it is to be written");
     } else {
         Report(check, number, "No arrow leads to it from a start: it is left out of the script",
-               "Lead an arrow to it, from a Start box when it needs no data, or delete it");
+               "Draw an arrow to it, from a Start box when it needs no data, or delete it");
     }
 }
 
@@ -187,8 +186,9 @@ void CheckArrows(Check& check, int number) {
     const auto& out = Boxes[number].BoxOut;
     if (Boxes[number].BoxType == "End If" &&
         std::any_of(out.begin(), out.end(), [](auto exit) { return exit > 0; })) {
-        ReportStop(check, number, "Its arrows are not followed: a branch goes on behind the If box",
-                   "Lead them from the If box, as its further exits");
+        ReportStop(check, number,
+                   "Its arrows are not followed: a branch continues after the If box",
+                   "Draw them from the If box, as its further exits");
     }
 }
 
@@ -211,7 +211,7 @@ void CheckBlocks(Check& check) {
         if (!IsReached(check, box) || !IsCloser(Boxes[box].BoxType)) continue;
         if (closes[static_cast<std::size_t>(box)]) continue;
         ReportStop(check, box, "It closes a block that isn't open there",
-                   "Delete it, or lead the arrows of its block to it");
+                   "Delete it, or draw the arrows of its block to it");
     }
 }
 

@@ -64,14 +64,14 @@ void CheckEntries(Check& check, int number) {
         const int feeder = box.BoxIn[digit - '0'];
         if (feeder == LockedSlot) {
             Report(check, number, "Its line needs entry " + entry + ", which is locked",
-                   "Open it in the information on the box and lead an arrow there");
+                   "Open it in the information on the box and draw an arrow there");
         } else if (feeder <= 0) {
             Report(check, number, "No arrow leads to entry " + entry + ": its line reads box0",
-                   "Lead an arrow to it");
+                   "Draw an arrow to it");
         } else if (IsThere(feeder) && !SetsItsVariable(Boxes[feeder]) &&
                    !IsMentioned(check, BoxName(feeder))) {
             Report(check, number, "It reads the value of " + Named(feeder) + ", which has none",
-                   "Lead the arrow from a box that has a value");
+                   "Draw the arrow from a box that has a value");
         }
     }
 }
@@ -80,7 +80,7 @@ void CheckText(Check& check, int number) {
     const Box& box = Boxes[number];
     if (const auto missing = MissingInText(box); !missing.empty()) {
         Report(check, number, "MATLAB refuses its line: its text lacks " + std::string(missing),
-               "Delete it and make it anew with the whole text");
+               "Delete it and make it again with the whole text");
     }
     if (const auto* row = FindTroubledType(box.BoxType); row && !row->Fault.empty()) {
         Report(check, number, "MATLAB refuses its line: " + std::string(row->Fault),
@@ -102,7 +102,7 @@ void CheckText(Check& check, int number) {
     const auto wired = std::count_if(in.begin(), in.end(), [](auto entry) { return entry > 0; });
     if (box.BoxType == "+" && wired < 2) {
         Report(check, number, "Fewer than two arrows lead to it: it writes no line",
-               "Lead a second arrow to it");
+               "Draw a second arrow to it");
     }
 }
 
@@ -114,8 +114,8 @@ void CheckPickup(Check& check, int number) {
     if (readers > 1) {
         Report(check, number,
                "It is read " + NumberText(readers) +
-                   " times: its line is written again each time, with the value of then",
-               "Use a Pickup for each reader, or hand the value on from box to box");
+                   " times: its line is written again each time, with the value at that point",
+               "Use a Pickup for each reader, or pass the value on from box to box");
     }
     CheckText(check, number);
     constexpr std::string_view constants[] = {"ans", "pi", "eps", "inf",   "Inf",     "nan",

@@ -178,9 +178,10 @@ int main(int argc, char** argv) {
                    "1 compiles to text (default), 0 as for MATLAB, text by text")
         ->check(CLI::IsMember({0, 1}))
         ->option_text("NUMBER");
-    auto* check = app.add_flag("--check", options.Check,
-                               "Don't compile: tell what would trouble a run, exit 1 if anything")
-                      ->option_text(" ");
+    auto* check =
+        app.add_flag("--check", options.Check,
+                     "Don't compile: report what would go wrong in a run, exit 1 if anything")
+            ->option_text(" ");
     auto* picture = app.add_option("--picture", options.Picture,
                                    "Don't compile: draw the diagram into this file, as SVG")
                         ->option_text("FILE");
