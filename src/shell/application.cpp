@@ -33,6 +33,7 @@
 #include "shell/tour.h"
 #include "toolbox/toolbox.h"
 #include "toolbox/toolbox_config.h"
+#include "workbench/bar.h"
 #include "workbench/history.h"
 
 namespace quorvane {
@@ -89,6 +90,7 @@ void ResetApplication() {
     HelpFile = Manual;
     TourStep = 0;
     ResetHistory();
+    ResetBar();
     ResetForms();
 }
 

@@ -61,7 +61,8 @@ SheetControl ControlOf(const Worksheet& window, int number) {
     return {number, Moved(window.box[number], window.scrH.Value, window.scrV.Value)};
 }
 
-/// All controls but that of an armed box: a load that was cut short leaves some behind the last box.
+/// All controls but that of an armed box: a load that was cut short leaves some behind the last
+/// box.
 bool IsKept(const Worksheet& window, int number, int nextBox) {
     const bool isArmed = number == nextBox && nextBox != NextBox &&
                          Boxes[number].BoxDocument == DocumentNumber(window);

@@ -20,6 +20,7 @@
 #include "qt/frame/splash_view.h"
 #include "qt/frame/toolbox_view.h"
 #include "qt/link/results_view.h"
+#include "qt/sheet/box_view.h"
 #include "qt/sheet/worksheet_view.h"
 #include "shell/frame.h"
 #include "toolbox/toolbox.h"
@@ -105,14 +106,12 @@ FrameView::FrameView() {
     area_ = new QMdiArea(this);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    auto* bar = new QWidget;
-    bar->setObjectName("Picture1");
-    bar->setFixedHeight(0);
+    bar_ = new BarView(this);
     auto* inner = new QWidget(this);
     auto* rows = new QVBoxLayout(inner);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
-    rows->addWidget(bar);
+    rows->addWidget(bar_);
     rows->addWidget(area_);
     setCentralWidget(inner);
     toolbox_ = new ToolboxView(this);
@@ -182,6 +181,7 @@ void FrameView::ShowRecords() {
     }
     ShowMenus();
     splash_->Refresh();
+    bar_->Refresh();
     toolbox_->Refresh();
     results_->Refresh();
     RefreshForms();
@@ -284,6 +284,19 @@ void FrameView::FocusWorksheet(int document) {
     activateWindow();
     area_->setActiveSubWindow(static_cast<QMdiSubWindow*>(view->parentWidget()));
     if (!view->isAncestorOf(focusWidget())) view->setFocus();
+}
+
+void FrameView::ShowBox(int number) {
+    const int document = BoxOrFree(number).BoxDocument;
+    FocusWorksheet(document);
+    if (auto* view = ViewOf(document)) view->ShowBox(number);
+}
+
+int FrameView::CurrentBox() const {
+    const auto* under = dynamic_cast<BoxView*>(QApplication::widgetAt(QCursor::pos()));
+    const auto* focused = dynamic_cast<BoxView*>(focusWidget());
+    const auto* box = under ? under : focused;
+    return box && box->Document() == activeDocument ? box->Number() : 0;
 }
 
 /// The toolbox follows once the frame is on the screen.

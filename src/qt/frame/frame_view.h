@@ -12,6 +12,7 @@ class QMdiSubWindow;
 
 namespace quorvane {
 
+class BarView;
 class SplashView;
 class ResultsView;
 class ToolboxView;
@@ -27,6 +28,10 @@ public:
     void Arrange(int how);
     /// Gives the focus to the worksheet of this document, if it is there.
     void FocusWorksheet(int document);
+    /// Brings the worksheet of a box to the front and scrolls it so that the box is seen.
+    void ShowBox(int number);
+    /// The box of the active worksheet that is under the mouse, or else has the focus; 0 for none.
+    int CurrentBox() const;
     QMdiArea* Area() const { return area_; }
     /// Pops up the menu of this control at the pointer; its commands work for this document.
     void PopupMenu(const QString& control, int document);
@@ -46,6 +51,7 @@ private:
     void Choose(int listed);
 
     QMdiArea* area_;
+    BarView* bar_ = nullptr;
     ToolboxView* toolbox_;
     ResultsView* results_ = nullptr;
     std::unique_ptr<SplashView> splash_;

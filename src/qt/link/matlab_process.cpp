@@ -66,6 +66,17 @@ bool IsUserInput(QEvent::Type type) {
     return std::find(std::begin(kinds), std::end(kinds), type) != std::end(kinds);
 }
 
+/// The key, or a press on the bar's button that does the same.
+bool IsEscape(QEvent* event) {
+    if (event->type() == QEvent::KeyPress) {
+        return static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape;
+    }
+    if (event->type() != QEvent::MouseButtonPress) return false;
+    const auto at = static_cast<QMouseEvent*>(event)->globalPosition().toPoint();
+    const auto* pressed = QApplication::widgetAt(at);
+    return pressed && pressed->objectName() == "stop";
+}
+
 }  // namespace
 
 MatlabProcess::MatlabProcess() {
@@ -146,12 +157,12 @@ void MatlabProcess::Kill() { Signal(process_.processId(), SIGKILL); }
 
 bool MatlabProcess::eventFilter(QObject*, QEvent* event) {
     if (!IsUserInput(event->type())) return false;
-    if (event->type() == QEvent::KeyPress &&
-        static_cast<QKeyEvent*>(event)->key() == Qt::Key_Escape) {
+    if (IsEscape(event)) {
         escape_ = true;
         waiting_->quit();
     }
-    event->ignore();
+    // A key that is no shortcut now comes again as a press.
+    event->setAccepted(event->type() == QEvent::ShortcutOverride);
     return true;
 }
 

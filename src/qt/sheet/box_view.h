@@ -14,6 +14,8 @@ public:
     BoxView(int document, int number, QWidget* surface);
     /// Takes over what has changed in the record.
     void Refresh(const BoxControl& control);
+    int Document() const { return document_; }
+    int Number() const { return number_; }
 
 protected:
     void paintEvent(QPaintEvent* event) override;

@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "catalogue/icon_table.h"
+#include "diagram/box_table.h"
 #include "diagram/connections.h"
 #include "diagram/layout.h"
 #include "qt/desktop/dispatch.h"
@@ -148,6 +149,20 @@ void WorksheetView::keyPressEvent(QKeyEvent* event) {
         case Qt::Key_End: return bar->setValue(bar->maximum());
         default: QWidget::keyPressEvent(event);
     }
+}
+
+void WorksheetView::ShowBox(int number) {
+    const auto show = [](QScrollBar* bar, int place, int seen) {
+        constexpr int room = 600;  // somewhat more than a box
+        const int last = place + 2 * room - seen;
+        bar->setValue(qMax(qMin(bar->value(), place - room / 2), last));
+    };
+    show(scrH_, Boxes[number].BoxLeft, static_cast<int>(ToUnits(surface_->width())));
+    show(scrV_, Boxes[number].BoxTop, static_cast<int>(ToUnits(surface_->height())));
+    auto* box = boxes_.size() > static_cast<std::size_t>(number)
+                    ? boxes_[static_cast<std::size_t>(number)]
+                    : nullptr;
+    if (box) box->setFocus(Qt::ShortcutFocusReason);
 }
 
 void WorksheetView::Refresh() {

@@ -24,6 +24,8 @@ public:
     int Document() const { return document_; }
     /// Shows what the record holds.
     void Refresh();
+    /// Scrolls by the least that brings a box into view, and gives it the focus.
+    void ShowBox(int number);
 
 protected:
     void resizeEvent(QResizeEvent* event) override;

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#include "qt/desktop/svg_icon.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
+#include <QSvgRenderer>
+
+namespace quorvane {
+
+namespace {
+
+class SvgIconEngine : public QIconEngine {
+public:
+    explicit SvgIconEngine(const QString& file) : file_(file) {}
+
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
+        constexpr double faint = 0.35;
+        if (mode == QIcon::Disabled) painter->setOpacity(faint);
+        painter->setRenderHint(QPainter::Antialiasing);
+        QSvgRenderer(file_).render(painter, QRectF(rect));
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap drawn(size);
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        paint(&painter, drawn.rect(), mode, state);
+        return drawn;
+    }
+    QIconEngine* clone() const override { return new SvgIconEngine(*this); }
+
+private:
+    QString file_;
+};
+
+}  // namespace
+
+QIcon SvgIcon(const QString& name) { return QIcon(new SvgIconEngine(":/bar/" + name + ".svg")); }
+
+}  // namespace quorvane

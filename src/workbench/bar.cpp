@@ -1,0 +1,65 @@
+// SPDX-License-Identifier: MIT
+#include "workbench/bar.h"
+
+#include "commands/change_box.h"
+#include "diagram/box_table.h"
+#include "diagram/selection.h"
+#include "generator/output_targets.h"
+#include "platform/desktop.h"
+#include "platform/numbers.h"
+#include "workbench/history.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr std::int64_t NoticeMilliseconds = 8000;
+
+/// What was said, and when: the clock, the step and the mode.
+struct Notice {
+    std::string Text;
+    std::int64_t Said = 0;
+    int Changes = 0;
+    int Mode = 0;
+};
+Notice notice;
+
+bool Stands(const Notice& said) {
+    return !said.Text.empty() && said.Changes == HistoryChanges() && said.Mode == EditMode &&
+           desktop->Milliseconds() - said.Said < NoticeMilliseconds;
+}
+
+std::string Selected() {
+    const int count = SelectedBoxes.UpperBound();
+    if (count == 0) return "";
+    return NumberText(count) + (count == 1 ? " box selected" : " boxes selected");
+}
+
+}  // namespace
+
+void Say(const std::string& text) {
+    notice = {text, desktop->Milliseconds(), HistoryChanges(), EditMode};
+}
+
+std::string BarState() {
+    if (!frmTextResults.lblState.Caption.empty()) return frmTextResults.lblState.Caption;
+    if (Stands(notice)) return notice.Text;
+    switch (EditMode) {
+        case 2: return "box " + NumberText(NextBox - 1) + " armed: click to place it";
+        case 3: return "arrow: click the box that it comes from";
+        case 4: return "arrow from " + BoxName(ArrowSource) + ": click its target";
+        case 5: return "move: click where the selection goes";
+        case 6: return "copy: click a box, or where the selection goes";
+        default: return Selected();
+    }
+}
+
+void ChangeBox_Key(Worksheet& sheet, int number) {
+    GiveUp();
+    if (!sheet.box.Has(number)) return;
+    if (!ChangeBox(sheet, number)) Say(BoxName(number) + " has no dialog");
+}
+
+void ResetBar() { notice = {}; }
+
+}  // namespace quorvane

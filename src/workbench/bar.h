@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "diagram/worksheet.h"
+
+namespace quorvane {
+
+/// What stands on the frame's bar beside its buttons, and what its keys do.
+
+/// Tells the user something that calls for no answer. It stands on the bar until the next step or
+/// mode, or for some seconds.
+void Say(const std::string& text);
+
+/// The state in words: what was said, what is pending, what is selected; "" for nothing.
+std::string BarState();
+
+/// Opens the dialog of a box for a change, and says so where it has none. What is pending is given
+/// up first.
+void ChangeBox_Key(Worksheet& sheet, int number);
+
+void ResetBar();
+
+}  // namespace quorvane
