@@ -4,7 +4,7 @@
 #include "commands/change_box.h"
 #include "diagram/box_table.h"
 #include "diagram/selection.h"
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "workbench/history.h"

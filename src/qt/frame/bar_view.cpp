@@ -8,7 +8,7 @@
 #include <QTimer>
 #include <QToolButton>
 
-#include "generator/output_targets.h"
+#include "generator/send_to_matlab.h"
 #include "platform/desktop.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"

@@ -2,6 +2,7 @@
 #include "qt/frame/frame_view.h"
 
 #include <QAction>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
 #include <QMdiArea>
@@ -14,9 +15,11 @@
 #include <cmath>
 #include <utility>
 
+#include "diagram/box_table.h"
 #include "files/close_document.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/dialogs/form_view.h"
+#include "qt/frame/bar_view.h"
 #include "qt/frame/splash_view.h"
 #include "qt/frame/toolbox_view.h"
 #include "qt/link/results_view.h"
