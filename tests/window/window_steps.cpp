@@ -182,7 +182,8 @@ Words WindowTest::MouseAndKeys() {
                  ->setText(ToScreen(a.Text).section(' ', 1));
          })},
         {"type", Step([](A a) {
-             QTest::keyClicks(QApplication::activeModalWidget()->focusWidget(),
+             const auto* dialog = QApplication::activeModalWidget();
+             QTest::keyClicks(dialog ? dialog->focusWidget() : QApplication::focusWidget(),
                               ToScreen(a.Text.substr(1)));
          })},
         {"commit", Step([=](A a) {
@@ -211,6 +212,7 @@ Words WindowTest::Looks() {
         {"from_centre",
          Seen([this](A a) { return NumbersOf(Find(a)->pos() - Surface()->rect().center()); })},
         {"text", Seen([this](A a) { return ToCore(TextOf(Seek(ToScreen(a.Text), a[0]))); })},
+        {"tip", Seen([this](A a) { return ToCore(Find(a)->toolTip()); })},
         {"cursor", Seen([this](A a) {
              for (const auto& [name, shape] : cursors) {
                  if (Find(a)->cursor().shape() == shape) return name;
