@@ -16,9 +16,9 @@ namespace fs = std::filesystem;
 
 /// A folder may include its own level and those below it.
 const std::map<std::string, int> Levels = {
-    {"platform", 0},    {"catalogue", 1}, {"diagram", 1}, {"commands", 1},
-    {"generator", 2},   {"check", 2},     {"files", 2},   {"toolbox", 3},
-    {"matlab_link", 3}, {"shell", 4},     {"workbench", 4}, {"qt", 5},    {"compile", 5},
+    {"platform", 0},  {"catalogue", 1}, {"diagram", 1}, {"commands", 1},    {"generator", 2},
+    {"check", 2},     {"files", 2},     {"toolbox", 3}, {"matlab_link", 3}, {"shell", 4},
+    {"workbench", 4}, {"qt", 5},        {"compile", 5},
 };
 
 /// Text of each source file by its path below src/, with "/" between the folders.

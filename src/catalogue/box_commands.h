@@ -25,16 +25,17 @@ constexpr int NoBox = -1;
 /// the keys by which the toolbox calls it, its page in the manual and, for a plain type, its
 /// script.
 struct BoxCommand {
-    int Depth;                      ///< In the menu: 1 for an entry of "Functions" itself
-    std::string_view Control;       ///< The entry's name
-    std::string_view Caption;       ///< "-" for a separator
-    std::string_view BoxType = "";  ///< "" when the dialog decides
-    const char* BoxText = nullptr;  ///< nullptr when it is not written, or by the dialog
-    int Entries = NoBox;            ///< How many stay open, the first ones
-    int Exits = 0;
-    IconSource Icon = IconSource::Type;
-    int Cell = 0;                  ///< Picture of its toolbox keys and its type; 0 for none
-    std::string_view Dialog = "";  ///< Form that it opens, "input box" for a prompt
+    int Depth;                           ///< In the menu: 1 for an entry of "Functions" itself
+    std::string_view Control;            ///< The entry's name
+    std::string_view Caption;            ///< "-" for a separator
+    std::string_view BoxType = "";       ///< "" when the dialog decides
+    const char* BoxText = nullptr;       ///< nullptr when it is not written, or by the dialog
+    int Entries = NoBox;                 ///< How many stay open, the first ones
+    int Exits = 0;                       ///< How many stay open, the first ones
+    IconSource Icon = IconSource::Type;  ///< Where the key of its picture comes from
+    int Cell = 0;                        ///< Picture of its toolbox keys and its type; 0 for none
+    std::string_view Dialog = "";        ///< Form that it opens, "input box" for a prompt
+    /// The keys by which the toolbox runs it, "" for none.
     std::array<std::string_view, 2> ToolboxKeys = {};
     std::string_view Page = "";  ///< The manual's page, by its anchor
     /// What the box writes once its feeders are done, with the holes of the emission chain; "" for

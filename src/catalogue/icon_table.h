@@ -8,14 +8,15 @@ namespace quorvane {
 
 /// The icon strip: cells of 32 by 32 pixels, 15 to a row, numbered from 1.
 constexpr int IconPixels = 32;
-constexpr int IconColumns = 15;
-constexpr int IconCells = 146;
+constexpr int IconColumns = 15;  ///< Cells in a row of the strip
+constexpr int IconCells = 146;   ///< Cells in use
 /// The cell of a key that has none.
 constexpr int FallbackCell = 104;
 
+/// A key and the cell of its picture.
 struct IconRow {
-    int Cell;
-    std::string_view Key;
+    int Cell;              ///< 1 to IconCells
+    std::string_view Key;  ///< Type, kind of plot or text, as BoxIconKey gives it
 };
 /// The keys that are neither the type nor a toolbox key of a box command: what the option lists
 /// make of a box, kinds of plot, texts. A command's own picture stands in its row.

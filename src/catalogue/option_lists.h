@@ -17,6 +17,7 @@ struct ListOption {
     const char* Entries;       ///< The open ones by their digits; nullptr for the list's default
     std::string_view Control;  ///< The name of a button of its own
 };
+/// For an option outside the array, and for a field that belongs to none.
 constexpr int NoIndex = -1;
 
 /// The field that some lists have beside their options.
@@ -36,12 +37,13 @@ struct ListField {
 struct OptionList {
     std::string_view Dialog;
     std::string_view Caption;
-    std::string_view FrameCaption;
-    const char* Entries;  ///< Open entries where an option names none
+    std::string_view FrameCaption;  ///< Of the frame around the options
+    const char* Entries;            ///< Open entries where an option names none
     std::vector<ListOption> Options;
-    ListField Field = {};
+    ListField Field = {};            ///< The further field, if the list has one
     std::string_view Array = "opn";  ///< The name of the option array
-    std::string_view FirstIndex = "0";
+    std::string_view FirstIndex =
+        "0";  ///< The index that OK takes when nothing was clicked, as decimal text
 };
 extern const std::vector<OptionList> optionLists;
 

@@ -24,29 +24,33 @@ struct ForLoopForm {
 };
 extern ForLoopForm frmForLoop;
 Form frmForLoop_Table();
+/// BoxText becomes "from:increment:until,".
 void CompleteFor(int box, const Box* former);
 
 /// "If": the condition, with "else" in front when the second exit is the other branch.
 struct IfForm {
     FormState Form = {.Caption = "Condition Statement"};
     TextBox txtCondition;
-    CheckBox chkelse;
+    CheckBox chkelse;  ///< The second exit is the "else" branch
     Button cmdOK{"OK"};
 };
 extern IfForm frmIf;
 Form frmIf_Table();
+/// BoxText becomes the condition, with "else" before it when that is ticked.
 void CompleteIf(int box, const Box* former);
 
+/// Prompts for the condition of a loop and the name of a variable; BoxText takes it as typed.
 void CompleteWhile(int box, const Box* former);
 void CompletePickup(int box, const Box* former);
 
 /// The subroutines of the box table, one of which is to be inserted.
 struct SubsForm {
     FormState Form;
-    ComboBox available_subs;
+    ComboBox available_subs;  ///< The names; the text is the one that was picked
     Button cmdOK{"OK"};
 };
 extern SubsForm frmSubs;
+/// Lists the types of the boxes at which a subroutine begins, of all documents.
 void frmSubs_Load();
 Form frmSubs_Table();
 
@@ -60,7 +64,7 @@ struct PauseForm {
     FormState Form = {.Caption = "Pause execution"};
     TextBox lblSecs{"1"};
     ScrollBar spn{.Min = -1, .Max = 1};  ///< -1 while its upper end is pressed, 1 the lower one
-    CheckBox chkNoNumber;
+    CheckBox chkNoNumber;                ///< Wait for the user, without a number
     Button cmdOK{"OK"};
 };
 extern PauseForm frmPause;
@@ -68,8 +72,10 @@ extern PauseForm frmPause;
 void frmPause_lblSecs_Change();
 /// Adds or subtracts one second and resets the spin control.
 void frmPause_spn_Change();
+/// Greys the seconds while it is ticked.
 void frmPause_chkNoNumber_Click();
 Form frmPause_Table();
+/// BoxText becomes the seconds, "" for a wait for the user.
 void CompletePause(int box, const Box* former);
 
 /// "User Input": the prompt that the script shows.
@@ -80,8 +86,10 @@ struct UserInputForm {
 };
 extern UserInputForm frmUserInput;
 Form frmUserInput_Table();
+/// BoxText becomes the prompt.
 void CompleteUserInput(int box, const Box* former);
 
+/// BoxText becomes the text of the comment, at most 100 characters.
 void CompleteComment(int box, const Box* former);
 
 }  // namespace quorvane

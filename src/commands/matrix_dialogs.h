@@ -22,6 +22,7 @@ struct MakeVectorForm {
 };
 extern MakeVectorForm frmMakeVector;
 Form frmMakeVector_Table();
+/// BoxText becomes "[min:step:max];".
 void CompleteMakeVector(int box, const Box* former);
 
 /// "Matrix Make Input": the size of a matrix and what fills it. Option1 stands outside the array,
@@ -37,8 +38,10 @@ struct MakeMatForm {
 };
 extern MakeMatForm frmMakeMat;
 void frmMakeMat_Load();
+/// Remembers the index, 0 to 3, of what fills the matrix.
 void frmMakeMat_opn_Click(int Index);
 Form frmMakeMat_Table();
+/// BoxText becomes "zeros(rows,columns)", or the like for another filling.
 void CompleteMakeMat(int box, const Box* former);
 
 /// "Split": a range of rows or columns.
@@ -52,8 +55,10 @@ struct SplitForm {
 };
 extern SplitForm frmSplit;
 void frmSplit_Load();
+/// Sets an empty start of the range to 1.
 void frmSplit_txtTo_Change();
 Form frmSplit_Table();
+/// BoxText becomes "Colfrom:to"; an empty bound is 1.
 void CompleteSplit(int box, const Box* former);
 
 }  // namespace quorvane

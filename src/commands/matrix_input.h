@@ -33,10 +33,12 @@ struct MatrixForm {
 };
 extern MatrixForm frmMatrix;
 
+/// Begins with 4 by 4 empty cells.
 void frmMatrix_Load();
 /// A key pressed in the grid: 8 and 46 take the last character off, 9, 13 and 37 to 40 move the
 /// current cell, any other key appends its character.
 void frmMatrix_grid_KeyDown(int keyCode, std::string_view character);
+/// Writes the cells into `mat`, without empty rows at the end, and hides the form.
 void frmMatrix_cmdOK_Click();
 /// Without the grid, which has a view of its own.
 Form frmMatrix_Table();

@@ -18,17 +18,20 @@ struct OptionListForm {
     FormState Form;
     const OptionList* List = nullptr;
     CheckedArray<OptionButton, 0, MaxOptions - 1> Options;  ///< By their rows in the list
-    std::string txtOpn;  ///< The index last clicked, as decimal text
-    TextBox Field;       ///< The further field that holds text
-    CheckBox chkElement;
+    std::string txtOpn;   ///< The index last clicked, as decimal text
+    TextBox Field;        ///< The further field that holds text
+    CheckBox chkElement;  ///< The further field that is a tick
     Button cmdOK;
 };
 extern OptionListForm frmOptionList;
 
+/// Fills the form from a list, with the option selected that OK would take.
 void frmOptionList_Load(const OptionList& list);
 /// A click on the option in this row of the list.
 void frmOptionList_Option_Click(int row);
+/// In frmConst selects the field's option, and clears a text that is no number.
 void frmOptionList_Field_Change();
+/// Hides the form, unless the constant of frmConst lacks its value.
 void frmOptionList_cmdOK_Click();
 /// The form of a list, named after its dialog.
 Form OptionList_Table(const OptionList& list);

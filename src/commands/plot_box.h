@@ -18,9 +18,9 @@ enum class ZColumn { Hidden, Shown, ErrorBars };
 struct GraphType {
     std::string_view Name;
     std::string_view Icon;
-    ZColumn Z;
-    bool LineControls;
-    std::string_view Command;
+    ZColumn Z;                 ///< How the type shows that axis
+    bool LineControls;         ///< Colour, line type and mark can be chosen
+    std::string_view Command;  ///< The MATLAB function that draws it
     /// Appends the rest of the command; false when a message has refused the marks.
     bool (*Compose)(const GraphType& type, std::string& script);
 };
@@ -33,15 +33,15 @@ using AxisMarks = CheckedArray<CheckBox, 1, 3>;  ///< By axis: 1 X, 2 Y, 3 Z
 struct PlotForm {
     FormState Form;
     ComboBox cmbType;
-    PictureBox pctType;
+    PictureBox pctType;   ///< The icon of the type
     std::string lblIcon;  ///< Icon key of the type last recognised; "" before
     AxisMarks chkInput1;
     AxisMarks chkInput2;
     AxisMarks chkInput3;
     Label lblZAxis{"Z axis"};
-    CheckBox chkFigure;
-    CheckBox chkGrid;
-    CheckBox chkHold;
+    CheckBox chkFigure;  ///< Opens a new figure first
+    CheckBox chkGrid;    ///< Toggles the grid
+    CheckBox chkHold;    ///< Toggles the holding of the figure
     ScrollBar sclLinenum{.Value = 1, .Min = 1, .Max = 3};
     Label lblLineNum{"Line #1"};
     ComboBox cmbLineColor;
@@ -62,10 +62,13 @@ struct PlotForm {
 extern PlotForm frmPlot;
 
 void frmPlot_Load();
+/// Shows the icon and the axes of the chosen graph type.
 void frmPlot_cmbType_Change();
+/// Note the style for the line that sclLinenum selects.
 void frmPlot_cmbLineColor_Change();
 void frmPlot_cmbLineType_Change();
 void frmPlot_cmbPoints_Change();
+/// Shows the style of the line with this number, 1 to 3.
 void frmPlot_sclLinenum_Change();
 /// Composes the commands and hides the dialog, or says what is missing and leaves it open.
 void frmPlot_cmdOK_Click();

@@ -39,6 +39,7 @@ void box_Click(Worksheet& sheet, int number);
 /// The right button alone switches dragging on and off; with a key, and the middle button, it opens
 /// the box's information.
 void box_MouseDown(Worksheet& sheet, int number, int Button, int Shift);
+/// Shows the bubble of the box under the pointer.
 void box_MouseMove(Worksheet& sheet, int number);
 
 }  // namespace quorvane

@@ -24,7 +24,9 @@ struct ConsoleDesktop : QuietDesktop {
     void ShowModal(std::string_view form) override;
 
 private:
+    /// Takes the next answer; "" when there is none left.
     std::string TakeAnswer();
+    /// Takes the next answer as a path; error 32755 when it is none.
     std::string TakePath();
 };
 

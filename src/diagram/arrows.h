@@ -9,6 +9,7 @@
 
 namespace quorvane {
 
+/// What the lines of an arrow are drawn with.
 struct Pen {
     std::int32_t Color = 0;  ///< Red in the low byte
     int Width = 1;           ///< In pixels

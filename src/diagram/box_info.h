@@ -35,6 +35,7 @@ extern InfoForm frmInfo;
 /// Opens the dialog of a box: its text for a comment, what it is connected to for any other.
 void OpenBoxInfo(Worksheet& sheet, int number);
 
+/// Hide the dialog and leave "OK" or "Cancel" in lblEmpty for OpenBoxInfo, which does the rest.
 void frmInfo_cmdOK_Click();
 void frmInfo_cmdCancel_Click();
 /// Gives all arrows that leave the box another colour, also when the dialog is cancelled
@@ -45,6 +46,7 @@ Form frmInfo_Table();
 /// Names a box in the bubble at its lower right corner, when bubbles are on.
 void ShowBubble(Worksheet& sheet, int number);
 void HideBubble(Worksheet& sheet);
+/// Switches bubbles on or off, in the preferences and in this worksheet's menu.
 void mnuOptionsBubbleShow_Click(Worksheet& sheet);
 
 }  // namespace quorvane

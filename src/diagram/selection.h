@@ -36,9 +36,12 @@ void CopySelection(Worksheet& sheet, double X, double Y);
 /// Arms a copy of one box. The copy names the same boxes in its slots, which don't name it.
 void CopyBox(Worksheet& sheet, int number);
 
+/// Wait for the click that says where the selection goes: EditMode 5 to move, 6 to copy.
 void mnuEditMove_Click(Worksheet& sheet);
 void mnueditcopy_Click(Worksheet& sheet);
+/// Deletes the selected boxes.
 void mnuEditClear_Click(Worksheet& sheet);
+/// Paints all arrows of the worksheet again.
 void mnuEditRedraw_Click(Worksheet& sheet);
 
 void ResetSelection();

@@ -46,6 +46,8 @@ struct ArrowPanel {
     bool HoldsArrow = false;            ///< Its picture is that of pctArrow: multiple arrows are on
 };
 
+/// A scroll bar at an edge of the sheet; its value is the sheet's place at that edge, in screen
+/// units.
 struct SheetScrollBar : ScrollBar {
     Area Place;
 };
@@ -104,11 +106,13 @@ struct FrameWindow {
     CheckedArray<MenuItem, 0, 4> mnuFileArray;
 };
 
+/// What is known of a document apart from its window, by the same number.
 struct DocumentState {
     std::int16_t Modified = 0;  ///< -1 with changes that are not saved
     std::int16_t Closed = 0;    ///< -1 when the document was closed and its number is free
     int Stored = 0;  ///< Grows when the boxes are those of a new worksheet, or of the file on disk
-    bool SaveFailed = false;  ///< The system refused the last save, which passes over that in silence
+    bool SaveFailed =
+        false;  ///< The system refused the last save, which passes over that in silence
 };
 
 /// The open documents by number; element 0 holds none. A closed document may have no window.

@@ -15,6 +15,7 @@ struct AboutForm {
 };
 extern AboutForm frmAbout;
 
+/// Shows the dialog and returns when it is closed.
 void mnuHelpAbout_Click();
 /// A tick of the timer: moves the first character of the line to its end.
 void frmAbout_Timer1_Timer();
@@ -29,6 +30,7 @@ struct DisclaimerForm {
 };
 extern DisclaimerForm frmDisclaimer;
 
+/// Shows the dialog and returns when it is closed.
 void mnuHelpDisclaimer_Click();
 void frmDisclaimer_cmdOK_Click();
 Form frmDisclaimer_Table();

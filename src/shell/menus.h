@@ -30,6 +30,7 @@ extern const std::vector<FrameMenuRow> frameMenu;
 
 /// True when the entry can be chosen.
 bool HasCommand(const DocumentMenuRow& row);
+/// Runs the entry's handler, or without one the box command of its control.
 void RunMenuCommand(const DocumentMenuRow& row, Worksheet& sheet);
 
 /// The record that holds an entry's caption, check mark and visibility; nullptr when they never

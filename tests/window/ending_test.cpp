@@ -3,6 +3,7 @@
 
 #include "platform/runtime_error.h"
 #include "qt/desktop/dispatch.h"
+#include "qt/desktop/qt_desktop.h"
 #include "window/window_fixture.h"
 
 namespace quorvane::testing {
@@ -35,6 +36,28 @@ TEST_F(EndingWindow, TheDiagramsAreSavedWhateverAHandlerLetsOut) {
                     std::string(ending.Told) + "\n\nChanged diagrams were saved as:\n/.*qvm");
     }
     Answers.clear();
+}
+
+TEST(UserFolders, FollowTheEnvironment) {
+    struct Row {
+        const char *Data, *State, *Home;
+        std::string DataFolder, StateFolder;
+    };
+    const auto home = qgetenv("HOME");
+    for (const auto& [data, state, at, dataFolder, stateFolder] : {
+             Row{"/d", "/s", "/h", "/d/quorvane", "/s/quorvane"},
+             Row{"", "", "/h", "/h/.local/share/quorvane", "/h/.local/state/quorvane"},
+             Row{"/d", "", "", "/d/quorvane", ""},
+         }) {
+        qputenv("XDG_DATA_HOME", data);
+        qputenv("XDG_STATE_HOME", state);
+        qputenv("HOME", at);
+        QtDesktop asked;
+        EXPECT_EQ(asked.DataFolder(), dataFolder);
+        EXPECT_EQ(asked.StateFolder(), stateFolder);
+    }
+    for (const char* name : {"XDG_DATA_HOME", "XDG_STATE_HOME"}) qunsetenv(name);
+    qputenv("HOME", home);
 }
 
 }  // namespace quorvane::testing

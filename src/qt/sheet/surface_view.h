@@ -30,7 +30,9 @@ protected:
 
 private:
     Worksheet& Sheet() const;
+    /// Draws the shapes of the record into the picture.
     void DrawLayer();
+    /// Repaints where the rubber band was and is now.
     void UpdateBand(const QRect& band);
     /// Moves the mouse pointer over the sheet and returns where it is then.
     QPoint MovePointer(QPoint by);

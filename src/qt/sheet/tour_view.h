@@ -11,6 +11,7 @@ namespace quorvane {
 class TourView : public QLabel {
 public:
     TourView(int document, QWidget* parent);
+    /// Shows the text of the panel, or hides it.
     void Refresh(const TourPanel& panel);
 
 protected:
@@ -18,6 +19,7 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    /// Shows the next step, as a click does.
     void GoOn();
     void Fit(const QSize& sheet);
 
