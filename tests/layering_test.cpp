@@ -63,7 +63,7 @@ std::string FaultOf(const std::string& from, const std::string& name, const std:
     if (target.empty()) return folder != "qt" && IsQtHeader(name) ? "Qt header " + name : "";
     if (!Levels.contains(folder) || !Levels.contains(other)) return "";
     if (Levels.at(other) > Levels.at(folder)) return "upwards to " + target;
-    // The two programs stand side by side: the command line never gets the windows with it.
+    // The two programs are peers: the command line never includes the windows.
     const bool programs = folder != other && Levels.at(folder) == 5 && Levels.at(other) == 5;
     return programs ? "program to program " + target : "";
 }

@@ -158,7 +158,7 @@ void CheckUnreached(Check& check, int number) {
             return IsThere(feeder) && Boxes[feeder].BoxType == type;
         });
     };
-    // What stands behind the end of a branch is told there.
+    // What comes after the end of a branch is reported there.
     if (!BeginsUnreached(check, number) || isFedBy("End If")) return;
     if (IsHead(box.BoxType)) {
         Report(check, number, "Nothing calls it: it is left out of the script",

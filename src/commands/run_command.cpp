@@ -68,7 +68,7 @@ std::string IconKey(const BoxCommand& command, const Box& box) {
     return box.BoxType;
 }
 
-/// A worksheet without a document, or without this box, is passed over.
+/// Nothing happens for a worksheet without a document, or without this box.
 void SetBoxPicture(const Worksheet& sheet, int box, const std::string& key) {
     Attempt([&] { GiveIcon(DocumentWindow(DocumentNumber(sheet)).box[box], key); });
 }

@@ -113,8 +113,8 @@ void NoteLines(Run& run, int box) {
     run.boxOfLine.resize(static_cast<std::size_t>(lines), ToInt16(box));
 }
 
-/// Visits one slot. The box in it is read anew where it counts, since a box that opens or closes a
-/// block replaces the whole front. False when the run is to be aborted.
+/// Visits one slot. The box in it is read again where it matters, since a box that opens or closes
+/// a block replaces the whole front. False when the run is to be aborted.
 bool VisitSlot(Run& run, int slot) {
     const int found = Front[slot];
     if (found == 0) return true;

@@ -93,7 +93,7 @@ const std::vector<EmissionRow> emissionChain = {
      .Head = "[box{id},temp1]={lcvalue}(box{in1}",
      .Pieces = {{"2", ",box{in2}"}},
      .Close = ");\r\nclear temp1;"},
-    // The whole line stands in front of the tail.
+    // The whole line comes before the tail.
     {.Keys = {"Trapz", "Diff", "Gradient", "Del2", "Norm", "Rank", "Rref", "Trace", "Rcond", "Sound",
               "Auread", "Auwrite", "Wavwrite", "Wavread", "lin2mu", "mu2lin"},
      .Opens = Gate::Inputs,

@@ -10,7 +10,7 @@ namespace quorvane {
 /// dialog ended. The worksheet that gave the command is redrawn.
 void mnuOptionsPrefs_Click(Worksheet& sheet);
 
-/// Loads the toolbox anew, by its new name and size.
+/// Reloads the toolbox by its new name and size.
 void frmPrefs_cmdOK_Click();
 /// Writes the settings file. The dialog stays open.
 void frmPrefs_cmdSave_Click();

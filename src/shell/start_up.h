@@ -26,7 +26,7 @@ void GoToSettings();
 /// Starts the program: shows the splash for 3 seconds, finds the program directory, reads the
 /// settings and brings up the toolbox. A current directory without a settings file makes the user
 /// choose the program directory; when that one has none either, the preferences stay as designed.
-/// Throws nothing: a failing step is passed over.
+/// Throws nothing: a failing step is skipped.
 void StartProgram();
 
 }  // namespace quorvane

@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
         for (const auto& entry : std::filesystem::recursive_directory_iterator(argv[i])) {
             if (!entry.is_regular_file()) continue;
             const auto bytes = quorvane::testing::ReadAll(entry.path());
-            // Named before the call, so that a crash stands behind the input that made it.
+            // Named before the call, so that a crash follows the input that caused it.
             std::cout << entry.path().string() << " (" << bytes.size() << " bytes)" << std::endl;
             if (bytes.size() != entry.file_size()) throw std::runtime_error("it can't be read");
             LLVMFuzzerTestOneInput(reinterpret_cast<const std::uint8_t*>(bytes.data()),
