@@ -112,6 +112,11 @@ struct KeyCell {
     int Cell = 0;
 };
 
+/// The order of the keys. Most of them differ in length, which is quicker to compare.
+bool ComesBefore(std::string_view a, std::string_view b) {
+    return a.size() != b.size() ? a.size() < b.size() : a < b;
+}
+
 /// The pictures of the commands, in the order of their keys.
 std::vector<KeyCell> MakeKeyCells() {
     std::vector<KeyCell> byKey;
@@ -123,7 +128,7 @@ std::vector<KeyCell> MakeKeyCells() {
         if (row.Icon == Type && !row.BoxType.empty()) byKey.push_back({row.BoxType, row.Cell});
     }
     std::sort(byKey.begin(), byKey.end(),
-              [](const KeyCell& a, const KeyCell& b) { return a.Key < b.Key; });
+              [](const KeyCell& a, const KeyCell& b) { return ComesBefore(a.Key, b.Key); });
     return byKey;
 }
 
@@ -151,9 +156,9 @@ std::string_view ToolboxCommand(std::string_view key) {
 int CommandCell(std::string_view key) {
     // Loading a diagram asks for each box.
     static const auto cells = MakeKeyCells();
-    const auto found =
-        std::lower_bound(cells.begin(), cells.end(), key,
-                         [](const KeyCell& a, std::string_view b) { return a.Key < b; });
+    const auto found = std::lower_bound(
+        cells.begin(), cells.end(), key,
+        [](const KeyCell& a, std::string_view b) { return ComesBefore(a.Key, b); });
     return found != cells.end() && found->Key == key ? found->Cell : 0;
 }
 
