@@ -35,7 +35,7 @@ TEST_F(BoxCommands, EachArmsOneBoxAsTheCatalogueSays) {
         }
         EXPECT_EQ(NextBox, 2);
         EXPECT_EQ(EditMode, 2);
-        const auto row = Row(Boxes[1]);
+        const auto row = BoxRow(Boxes[1]);
         const int picture = Sheet().box[1].Picture;
         EXPECT_EQ(picture == 0, dialog == "frmBasic") << "nothing was picked";
         if (!form) {
@@ -122,63 +122,6 @@ TEST_F(BoxCommands, EachHasItsMenuEntryPictureScriptAndPage) {
     keys.insert("Arrow");
     EXPECT_EQ(std::set<std::string_view>(toolboxCatalogue.begin(), toolboxCatalogue.end()), keys);
     EXPECT_EQ(toolboxCatalogue.size(), keys.size());
-}
-
-TEST_F(BoxCommands, AnArmedBoxIsRetyped) {
-    const Box& box = Make("frmConst");
-    RunBoxCommand(Sheet(), "mnuTrigSin");
-    EXPECT_EQ(NextBox, 2);
-    // "Sin" writes no text and opens no entry.
-    EXPECT_EQ(Row(box), (Texts{"Sin", "pi", "", "12345"}));
-    EXPECT_EQ(Sheet().box[1].Picture, 118);
-    // Options that differ from their list write their entries alone.
-    Make("frmRound", "opn(3)");
-    EXPECT_EQ(Row(box), (Texts{"Rem", "pi", "2", "12345"}));
-    // An empty condition leaves the text.
-    Make("frmCheck", "opn(5)");
-    EXPECT_EQ(Row(box), (Texts{"Find", "pi", "", "12345"}));
-    // Without a choice the arithmetic operators leave type and picture; their text goes.
-    Make("frmBasic");
-    EXPECT_EQ(Row(box), (Texts{"Find", "", "", "12345"}));
-    EXPECT_EQ(Sheet().box[1].Picture, 19);
-    // A plot has the picture of its graph type.
-    Make("frmPlot", "cmbType=Pseudocolor|chkInput2(1)");
-    EXPECT_EQ(Sheet().box[1].Picture, 103);
-    // The exits that a command leaves open are not opened again.
-    Make("frmSubs", "available_subs=a Subroutine");
-    EXPECT_EQ(Row(box), (Texts{"Insert Subroutine a", "Subroutine", "", ""}));
-}
-
-TEST_F(BoxCommands, APictureWithoutItsControlIsPassedOver) {
-    // Armed in document 1 and retyped from document 2, which has no element 1.
-    NewDocument();
-    RunBoxCommand(Sheet(1), "mnuTrigSin");
-    RunBoxCommand(Sheet(2), "mnuTrigCos");
-    EXPECT_EQ(Boxes[1].BoxType, "Cos");
-    EXPECT_FALSE(Sheet(2).box.Has(1));
-    EXPECT_EQ(Sheet(1).box[1].Picture, 118);
-    EXPECT_EQ(TakeTold(), "");
-}
-
-TEST_F(BoxCommands, WritesFallOnTheLastRecordButOne) {
-    const auto run = [&](int mode) {
-        EditMode = static_cast<std::int16_t>(mode);
-        RunBoxCommand(Sheet(), "mnuSpecDummy");
-        return NumberText(NextBox) + " " + Boxes[1].BoxType + "/" + Boxes[2].BoxType;
-    };
-    Draw({{"Cos", "", {0}}, {"Tan", "", {0}}});
-    EXPECT_EQ(run(5), "3 Cos/Dummy Input");
-    EXPECT_EQ(run(3), "2 Dummy Input/");  // Takes record 2 back, which is then cleared
-    // With no box at all there is no record to write.
-    ResetBoxTable();
-    EXPECT_EQ(run(3), "0 /");
-    EXPECT_EQ(Boxes[0].BoxType, "");
-    // With all boxes in use the last one stays.
-    Restart();
-    for (int i = 1; i <= MaxBoxes; ++i) Draw({{"Sin", ""}});
-    EXPECT_EQ(run(1), "350 Sin/Sin");
-    EXPECT_EQ(screen.Messages.size(), 1u);
-    EXPECT_EQ(Boxes[349].BoxType + "/" + Boxes[350].BoxType, "Dummy Input/Sin");
 }
 
 }  // namespace quorvane::testing

@@ -64,6 +64,22 @@ inline bool Play(std::string_view dialog, const std::string& steps) {
     return form.State->Visible;
 }
 
+/// The numbers of the open slots.
+std::string Open(const auto& slots) {
+    std::string open;
+    for (char number = '1'; const auto slot : slots) {
+        if (slot == 0) open += number;
+        ++number;
+    }
+    return open;
+}
+
+/// A box as the tables write it: type (and mark, which no command writes), text, open entries, open
+/// exits.
+inline Texts BoxRow(const Box& box) {
+    return {box.BoxType + box.BoxMark, box.BoxText, Open(box.BoxIn), Open(box.BoxOut)};
+}
+
 struct CatalogueTest : DiagramTest {
     int ModeInDialog = -1;  ///< EditMode while the dialog stood
     bool Stands = false;    ///< Whether the dialog still stood when the user had done
@@ -97,22 +113,9 @@ struct CatalogueTest : DiagramTest {
             EXPECT_TRUE(box == before) << before.BoxText << " became " << box.BoxText;
         }
     }
-    /// A box as the tables write it: type (and mark, which no command writes), text, open entries,
-    /// open exits.
-    static Texts Row(const Box& box) {
-        return {box.BoxType + box.BoxMark, box.BoxText, Open(box.BoxIn), Open(box.BoxOut)};
-    }
     /// Those cells of a table's row from this one on.
     static Texts RowAt(const Texts& row, int first) {
         return {row.begin() + first, row.begin() + first + 4};
-    }
-    static std::string Open(const auto& slots) {
-        std::string open;
-        for (char number = '1'; const auto slot : slots) {
-            if (slot == 0) open += number;
-            ++number;
-        }
-        return open;
     }
 };
 

@@ -88,23 +88,4 @@ TEST_F(ChangedBox, SlotsFollowWhatIsTypedAndTicked) {
            "cmbType=2-D Plot|chkInput1(2)=0|chkInput1(2)|chkInput2(2)=0");
 }
 
-TEST_F(ChangedBox, PromptsAndBoxesWithoutADialog) {
-    screen.Texts = {"a>0", "b>0", "", "one", "two"};
-    RunBoxCommand(Sheet(), "mnuLoopWhile");
-    EXPECT_TRUE(ChangeBox(Sheet(), 1));
-    EXPECT_EQ(Boxes[1].BoxText, "b>0");
-    EXPECT_EQ(screen.Prompts.back(), "Quorvane|Enter the condition in Matlab Script|a>0");
-    EXPECT_TRUE(ChangeBox(Sheet(), 1)) << "cancelled";
-    EXPECT_EQ(Boxes[1].BoxText, "b>0");
-    EditMode = 1;
-    RunBoxCommand(Sheet(), "mnuSpecSubStart");
-    EXPECT_TRUE(ChangeBox(Sheet(), 2));
-    EXPECT_EQ(Row(Boxes[2]), (Texts{"two Subroutine", "Subroutine", "", "12345"}));
-    EXPECT_EQ(screen.Prompts.back(), "Quorvane|What is the subroutine's name ?|one");
-    EditMode = 1;
-    RunBoxCommand(Sheet(), "mnuTrigSin");
-    EXPECT_FALSE(ChangeBox(Sheet(), 3));
-    EXPECT_EQ(Boxes[3].BoxType, "Sin");
-}
-
 }  // namespace quorvane::testing

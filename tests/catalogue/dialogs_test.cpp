@@ -40,7 +40,7 @@ TEST_F(Dialogs, EachOptionMakesItsBox) {
                 steps = (typed ? std::string(list.Field.Control) + "=7.5|" : "") + steps;
                 text.replace(hole, 7, typed ? "7.5" : "");
             }
-            const auto row = Row(Make(std::string(list.Dialog), steps));
+            const auto row = BoxRow(Make(std::string(list.Dialog), steps));
             EXPECT_FALSE(Stands);
             EXPECT_EQ(row[0], option.BoxType.empty() ? TypeOf(list.Dialog) : option.BoxType);
             EXPECT_EQ(row[1], text);
@@ -61,29 +61,10 @@ TEST_F(Dialogs, StepsArePackedIntoTheBox) {
         Restart();
         const auto& box = Make(row[0], row[1]);
         EXPECT_FALSE(Stands);
-        EXPECT_EQ(Row(box), RowAt(row, 2));
+        EXPECT_EQ(BoxRow(box), RowAt(row, 2));
         EXPECT_EQ(TakeTold(), row[6]);
         if (!box.BoxType.empty()) Reopen(row[0]);
     }
-}
-
-TEST_F(Dialogs, PromptsAreStoredAsAnswered) {
-    screen.Texts = {"a>0", "box4", "a"};
-    for (const char* command : {"mnuLoopWhile", "mnuSpecPickup", "mnuSpecSubStart"}) {
-        EditMode = 1;
-        RunBoxCommand(Sheet(), command);
-    }
-    EXPECT_EQ(Row(Boxes[7]), (Texts{"While", "a>0", "123", "12345"}));
-    EXPECT_EQ(Row(Boxes[8]), (Texts{"Pickup", "box4", "", "12345"}));
-    EXPECT_EQ(Row(Boxes[9]), (Texts{"a Subroutine", "Subroutine", "", "12345"}));
-    EXPECT_EQ(screen.Prompts, (Texts{"Quorvane|Enter the condition in Matlab Script|",
-                                     "Quorvane|Please enter the variable to pick up|box8",
-                                     "Quorvane|What is the subroutine's name ?|"}));
-}
-
-TEST_F(Dialogs, SubroutinesToInsertAreListedByTheirTypes) {
-    frmSubs_Load();
-    EXPECT_EQ(frmSubs.available_subs.List, (Texts{"a Subroutine", " Subroutine"}));
 }
 
 TEST_F(Dialogs, TheBrowserIsOpenedForTheDialogThatAsks) {

@@ -83,17 +83,6 @@ TEST_F(EmissionTest, TheChainHoldsEachKeyOnce) {
     EXPECT_EQ(known, expected);
 }
 
-TEST_F(EmissionTest, KeyboardInputKeepsTheAnswer) {
-    DrawAsBox4("Keyboard Input", "5 6", "");
-    screen.Texts = {"7 8"};
-    EXPECT_EQ(Compile(), Whole("box4=[ 7 8 ];\n"));
-    EXPECT_EQ(Boxes[4].BoxText, "7 8");
-    EXPECT_EQ(Compile(), Whole("box4=[  ];\n"));
-    EXPECT_EQ(Boxes[4].BoxText, "");
-    EXPECT_EQ(screen.Prompts, (Texts{"Quorvane: box4|Enter the data devided by spaces|5 6",
-                                     "Quorvane: box4|Enter the data devided by spaces|7 8"}));
-}
-
 TEST_F(EmissionTest, FeedersReplaceInputWords) {
     for (const auto& row : ReadTable("generator/filters.tsv")) {
         for (const auto& key : Split(row[0], '|')) {

@@ -16,26 +16,10 @@ namespace quorvane::testing {
 
 using Texts = std::vector<std::string>;
 
-/// A script as a test writes it, with "\n" for each line end.
-inline std::string Crlf(std::string_view lines) {
-    std::string script;
-    for (const char c : lines) script += c == '\n' ? std::string("\r\n") : std::string(1, c);
-    return script;
-}
-
 inline std::string Joined(const Texts& parts, const std::string& separator) {
     std::string line;
     for (const auto& part : parts) line += (&part == &parts[0] ? "" : separator) + part;
     return line;
-}
-
-/// Numbers separated by blanks.
-inline std::vector<int> Numbers(const std::string& line) {
-    std::vector<int> numbers;
-    for (const auto& part : Split(line, ' ')) {
-        if (!part.empty()) numbers.push_back(std::stoi(part));
-    }
-    return numbers;
 }
 
 inline std::string StallText(std::string_view boxAndType) {
@@ -71,7 +55,7 @@ protected:
 
     /// Draws each diagram of a table and has it examined, with the row that tells what is expected.
     template <class Examine>
-    void ForEachDiagram(const char* table, Examine&& examine) {
+    void ForEachDiagram(const std::string& table, Examine&& examine) {
         const auto rows = ReadTable(table);
         for (auto row = rows.begin(); row != rows.end();) {
             const auto& expected = *row++;
@@ -79,16 +63,14 @@ protected:
             Restart();
             for (; row != rows.end() && row->front().empty(); ++row) {
                 for (std::size_t i = 1; i + 1 < row->size() && !(*row)[i].empty(); ++i) {
-                    auto box = Split((*row)[i], '~');
-                    box.resize(4);
-                    Draw({{box[0], Crlf(box[1]), Numbers(box[2]), Numbers(box[3])}});
+                    DrawBox((*row)[i]);
                 }
             }
             examine(expected);
         }
     }
     /// Compiles each diagram of a table twice, to text and where its row says so to MATLAB.
-    void CheckDiagrams(const char* table) {
+    void CheckDiagrams(const std::string& table) {
         ForEachDiagram(table, [&](const Texts& expected) {
             for (const int mode : {1, 1, 0, 0}) {
                 if (mode == 1 || !expected[5].empty()) CheckRun(mode, expected);

@@ -11,6 +11,7 @@
 #include "files/document_file.h"
 #include "shell/application.h"
 #include "support/scripted_desktop.h"
+#include "support/table_file.h"
 
 namespace quorvane::testing {
 
@@ -61,6 +62,13 @@ protected:
             ++NextBox;
         }
         return first;
+    }
+
+    /// The same for a box of a table, "type~text~entries~exits".
+    static void DrawBox(const std::string& cell, int document = 1) {
+        auto box = Split(cell, '~');
+        box.resize(4);
+        Draw({{box[0], Crlf(box[1]), Numbers(box[2]), Numbers(box[3])}}, document);
     }
 
     /// The messages since the last time, each with its icon, one of "-i?!x", in front; parted by

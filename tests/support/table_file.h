@@ -31,6 +31,18 @@ inline std::string Replaced(std::string text, const std::string& what, const std
     return text;
 }
 
+/// A script as a test writes it, with "\n" for each line end.
+inline std::string Crlf(const std::string& lines) { return Replaced(lines, "\n", "\r\n"); }
+
+/// Numbers separated by blanks.
+inline std::vector<int> Numbers(const std::string& line) {
+    std::vector<int> numbers;
+    for (const auto& part : Split(line, ' ')) {
+        if (!part.empty()) numbers.push_back(std::stoi(part));
+    }
+    return numbers;
+}
+
 /// A cell as it is meant: \r, \n, \t, \s (a blank) and \\ stand for one character each.
 inline std::string Unescaped(const std::string& cell) {
     std::string text;

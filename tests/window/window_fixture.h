@@ -63,7 +63,6 @@ protected:
     void AtForm(const std::string& form, std::function<void()> steps) override;
 
     std::deque<Hand> Answers;
-    Hand Otherwise;     ///< What answers when Answers is empty, if anything does
     QStringList Asked;  ///< Of each dialog its name or title, ": ", and its message or prompt
 
     /// Starts the program anew from the current folder.

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: MIT
+#include "catalogue/catalogue_fixture.h"
+#include "commands/change_box.h"
 #include "commands/worksheet_events.h"
 #include "diagram/arrows.h"
 #include "diagram/comment_form.h"
@@ -9,18 +11,24 @@
 #include "diagram/placement.h"
 #include "diagram/preferences.h"
 #include "diagram/selection.h"
+#include "files/close_document.h"
+#include "generator/compile_document.h"
+#include "generator/front.h"
+#include "generator/send_to_matlab.h"
+#include "generator/write_script.h"
 #include "platform/numbers.h"
 #include "support/step_test.h"
+#include "workbench/after_event.h"
+#include "workbench/history.h"
 
 namespace quorvane::testing {
 
-using Numbers = std::vector<int>;
-
-/// Plays the tables of this folder: what a user does, and what then stands in the records.
-class EditingTest : public StepTest, public ::testing::WithParamInterface<const char*> {
+/// Plays the tables of diagrams: what a user does, and what then stands in the records.
+class DiagramSteps : public StepTest, public ::testing::WithParamInterface<const char*> {
 protected:
-    EditingTest() {
-        for (const auto& some : {RecordWords(), SheetWords(), FormWords(), Steps(), Handlers()}) {
+    DiagramSteps() {
+        for (const auto& some : {RecordWords(), SheetWords(), FormWords(), Steps(), Handlers(),
+                                 Commands(), Runs(), History()}) {
             Know(some);
         }
     }
@@ -42,8 +50,8 @@ protected:
         for (const auto number : numbers) SelectedBoxes.Append(ToInt16(number));
     }
 
-    static Numbers Selected() {
-        Numbers numbers;
+    static std::vector<int> Selected() {
+        std::vector<int> numbers;
         for (int i = 1; i <= SelectedBoxes.UpperBound(); ++i) numbers.push_back(SelectedBoxes[i]);
         return numbers;
     }
@@ -52,15 +60,6 @@ private:
     Words RecordWords() {
         return {
             {"ArrowSource", Global(ArrowSource)},
-            {"BoxType", OfBox(&Box::BoxType)},
-            {"BoxText", OfBox(&Box::BoxText)},
-            {"BoxMark", OfBox(&Box::BoxMark)},
-            {"BoxDocument", OfBox(&Box::BoxDocument)},
-            {"BoxIn", OfBox(&Box::BoxIn)},
-            {"BoxOut", OfBox(&Box::BoxOut)},
-            {"BoxLineColor", OfBox(&Box::BoxLineColor)},
-            {"BoxLeft", OfBox(&Box::BoxLeft)},
-            {"BoxTop", OfBox(&Box::BoxTop)},
             {"types", Seen([](A) {
                  std::vector<std::string> types;
                  for (int i = 1; i < NextBox; ++i) types.push_back(Boxes[i].BoxType);
@@ -68,7 +67,7 @@ private:
              })},
             {"remember", Step([this](A) { remembered = Boxes; })},
             {"changed", Seen([this](A) {
-                 Numbers numbers;
+                 std::vector<int> numbers;
                  for (int i = 0; i <= MaxBoxes; ++i) {
                      if (Boxes[i] != remembered[i]) numbers.push_back(i);
                  }
@@ -90,7 +89,6 @@ private:
             {"CurrentDocument", Global(CurrentDocument)},
             {"PageRight", Global(PageRight)},
             {"PageBottom", Global(PageBottom)},
-            {"txtEvent", Global(frmMDI.txtEvent)},
             {"Tag", OfSheet(&W::Tag)},
             {"ScaleWidth", OfSheet(&W::ScaleWidth)},
             {"ScaleHeight", OfSheet(&W::ScaleHeight)},
@@ -108,7 +106,6 @@ private:
              })},
             {"pnlResource", OfSheet(&W::pnlResource, &GaugePanel::Value)},
             {"pnlArrow", OfSheet(&W::pnlArrow, &ArrowPanel::BackColor)},
-            {"HoldsArrow", OfSheet(&W::pnlArrow, &ArrowPanel::HoldsArrow)},
             {"MultipleArrows", OfSheet(&W::mnuMultipleArrows, &MenuItem::Checked)},
             {"txtboxname", Seen([](A a) { return Sheet(a[0]).txtboxname; })},
             {"painted", Seen([](A a) { return Taken(Sheet(a[0]).Surface); })},
@@ -203,15 +200,122 @@ private:
         };
     }
 
+    Words Commands() {
+        return {
+            {"run", Step([](A a) { RunBoxCommand(Sheet(a[0]), a.Text); })},
+            {"make", Step([this](A a) {
+                 auto steps = a.Text;
+                 const auto dialog = TakeWord(steps);
+                 screen.Forms[dialog] = [=] {
+                     Play(dialog, steps + (steps.empty() ? "cmdOK" : "|cmdOK"));
+                 };
+                 for (const auto& command : boxCommands) {
+                     if (command.Dialog == dialog) RunBoxCommand(Sheet(), command.Control);
+                 }
+             })},
+            {"change", Seen([](A a) { return ChangeBox(Sheet(), a[0]); })},
+            {"row", Seen([](A a) {
+                 const auto row = BoxRow(Boxes[a[0]]);
+                 return row[0] + "|" + row[1] + "|" + row[2] + "|" + row[3];
+             })},
+            {"texts", Step([this](A a) {
+                 const auto texts = Split(a.Text.substr(1), '|');
+                 screen.Texts.assign(texts.begin(), texts.end());
+             })},
+            {"prompts", Seen([this](A) { return Taken(screen.Prompts); })},
+            {"draw", Step([](A a) {
+                 for (const auto& box : Split(a.Text, '|')) DrawBox(box, a[0]);
+             })},
+        };
+    }
+
+    Words Runs() {
+        return {
+            {"compile",
+             {[](A a) { CompileDocument(ToInt16(a[0]), Show(a[1])); },
+              [](A a) {
+                  const auto script = CompileDocument(ToInt16(a[0]), Show(a[1]));
+                  return Replaced(script, "\r\n", "\n");
+              },
+              {}}},
+            {"end", Seen([](A) -> std::string {
+                 for (int i = 0; i < NextBox; ++i) {
+                     if (!Boxes[i].BoxMark.empty()) return "marks are left";
+                 }
+                 const std::map<RunEnd, std::string> ends = {{RunEnd::None, "none"},
+                                                             {RunEnd::Done, "done"},
+                                                             {RunEnd::Aborted, "aborted"},
+                                                             {RunEnd::Refused, "refused"}};
+                 return ends.at(lastRunEnd);
+             })},
+            {"frontWidth", Global(frontWidth)},
+            {"Front",
+             {{},
+              [](A) {
+                  return Show(
+                      std::vector<int>(Front.Data(), Front.Data() + Front.UpperBound() + 1));
+              },
+              [](A, const std::string& text) {
+                  std::istringstream in(text);
+                  std::int16_t box = 0;
+                  for (int i = 0; in >> box; ++i) Front[i] = box;
+              }}},
+            {"enqueue", Step([](A a) {
+                 for (const auto box : a.Given) AddToFront(ToInt16(box));
+             })},
+            {"RemoveFromFront", Step([](A a) { RemoveFromFront(a[0]); })},
+            {"PushFront", Step([](A a) { PushFront(ErrorPolicy::Fatal, a[0]); })},
+            {"PopFront", Step([](A) { PopFront(); })},
+            {"header", Seen([](A a) {
+                 auto path = a.Text;
+                 const auto text = AddFunctionHeader(path, "x");
+                 return path + ": " + text;
+             })},
+            {"sent", Seen([this](A) { return Replaced(Taken(screen.Sent), "\r\n", "\n"); })},
+            {"SentBoxes", Seen([this](A) { return Taken(screen.SentBoxes); })},
+            {"Reply", Global(screen.Reply)},
+            {"Kept", Global(screen.Kept)},
+            {"frmTextResults", Global(frmTextResults.Form.Visible)},
+            {"frmTextResults_cmdOK", Step([](A) { frmTextResults_cmdOK_Click(); })},
+            {"refuse", Step([this](A a) { screen.LinkFailures = {a[0]}; })},
+            {"log", Global(frmTextResults.txt.Text)},
+        };
+    }
+
+    static Words History() {
+        const auto ended = [](auto&& happens) {
+            return Step([=](A) {
+                happens();
+                AfterEvent();
+            });
+        };
+        return {
+            {"undoes", Seen([](A) {
+                 AfterEvent();
+                 return UndoName();
+             })},
+            {"redoes", Seen([](A) { return RedoName(); })},
+            {"undo", ended([] { Undo(); })},
+            {"redo", ended([] { Redo(); })},
+            {"GiveUp", Seen([](A) { return GiveUp(); })},
+            {"save", Step([](A) { SaveDocument(1, 1); })},
+            {"close_document", Step([](A) { CloseDocument(1); })},
+            {"load", Step([](A a) { LoadDocumentFile(a.Text); })},
+        };
+    }
+
     decltype(Boxes) remembered;
 };
 
-TEST_P(EditingTest, Table) { PlayTable(std::string("diagram/") + GetParam() + ".tsv"); }
+TEST_P(DiagramSteps, Table) { PlayTable(std::string(GetParam()) + ".tsv"); }
 
-INSTANTIATE_TEST_SUITE_P(Tables, EditingTest,
-                         ::testing::Values("arrows", "box_info", "connections", "delete_boxes",
-                                           "layout", "page_view", "placement", "selection",
-                                           "worksheet"),
-                         [](const auto& table) { return std::string(table.param); });
+INSTANTIATE_TEST_SUITE_P(Tables, DiagramSteps,
+                         ::testing::Values("catalogue/commands", "diagram/arrows",
+                                           "diagram/box_info", "diagram/connections",
+                                           "diagram/delete_boxes", "diagram/layout",
+                                           "diagram/page_view", "diagram/placement",
+                                           "diagram/selection", "diagram/worksheet",
+                                           "generator/runs", "workbench/history"),
+                         [](const auto& table) { return Replaced(table.param, "/", "_"); });
 
 }  // namespace quorvane::testing
