@@ -93,6 +93,7 @@ std::string RandomUser::OperateOn(int document) {
     switch (Any(isOwn ? 24 : 10)) {
         case 0:
         case 1: {
+            if (Careful && (EditMode == 3 || EditMode == 4)) return "nothing";
             const auto& row =
                 boxCommands[static_cast<std::size_t>(Any(static_cast<int>(boxCommands.size())))];
             return RunBoxCommand(sheet, row.Control), "command " + std::string(row.Control);

@@ -27,6 +27,7 @@ struct RandomUser : QuietDesktop {
     /// A number from 0 to `below` - 1.
     int Any(int below) { return static_cast<int>(chance() % static_cast<unsigned>(below)); }
     std::mt19937 chance;
+    bool Careful = false;  ///< Gives no command while an arrow is pending, which drops the last box
 
 private:
     std::string OperateOn(int document);

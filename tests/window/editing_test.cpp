@@ -48,6 +48,7 @@ struct EditingWindow : WindowTest {
 TEST_F(EditingWindow, RecordsAndScreenAgreeAfterRandomEditing) {
     const auto wanted = qEnvironmentVariableIntValue("QUORVANE_OPERATIONS");
     RandomUser user(static_cast<unsigned>(qEnvironmentVariableIntValue("QUORVANE_SEED")));
+    user.Careful = true;
     quorvane::desktop = &user;
     for (int i = 0; i < (wanted > 0 ? wanted : 250); ++i) {
         std::string operation;
