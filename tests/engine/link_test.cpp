@@ -13,7 +13,7 @@
 #include "platform/runtime_error.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/qt_desktop.h"
-#include "support/diagram_fixture.h"
+#include "support/step_test.h"
 
 namespace quorvane::testing {
 namespace {
@@ -38,12 +38,40 @@ struct LinkDesktop : QtDesktop {
     }
 };
 
-struct LinkTest : DiagramTest {
+struct LinkTest : StepTest {
     LinkDesktop screen;
     QWidget window;
 
+    LinkTest() {
+        Know({
+            {"engine", {[](A a) { StartLink(a.Text.empty() ? QUORVANE_OCTAVE : a.Text); }, {}, {}}},
+            {"send", Seen([this](A a) { return Send(a.Text.substr(1)); })},
+            {"stopped", Seen([this](A a) {
+                 auto lines = Split(Stopped(a.Text.substr(1), a[0]), '\n');
+                 return lines.front() + " ... " + lines[lines.size() - 2];
+             })},
+            {"boxes", Seen([](A a) {
+                 LinkExecute(a.Text.substr(1), {a.Given.begin(), a.Given.end()});
+                 const auto answer = LinkRequest();
+                 return answer.substr(0, answer.find('\n'));
+             })},
+            {"finish", Seen([](A) { return LinkFinish(true); })},
+            {"type", Step([this](A a) {
+                 const auto answers = Split(a.Text, '|');
+                 screen.Answers.assign(answers.begin(), answers.end());
+             })},
+            {"asked", Seen([this](A) { return Taken(screen.Asked); })},
+            {"draw", Step([](A a) {
+                 for (const auto& box : Split(a.Text, '|')) DrawBox(box);
+             })},
+            {"log", Global(frmTextResults.txt.Text)},
+            {"logged", Seen([](A a) {
+                 return Split(Replaced(frmTextResults.txt.Text, a.Text, "\1"), '\1').size() - 1;
+             })},
+        });
+    }
     void SetUp() override {
-        DiagramTest::SetUp();
+        StepTest::SetUp();
         desktop = &screen;
         matlabLink = {LinkOpen, LinkExecute, LinkRequest, LinkFinish, StartOctave};
         escape_.setSingleShot(true);
@@ -62,18 +90,12 @@ struct LinkTest : DiagramTest {
     }
     /// A script that hangs fails its test and no more.
     std::string Send(const std::string& script) { return Stopped(script, 20000); }
-    int Raised(const std::string& script) {
-        try {
-            LinkExecute(script, {});
-        } catch (const RuntimeError& error) {
-            return error.Number;
-        }
-        return 0;
-    }
 
 private:
     QTimer escape_;
 };
+
+TEST_F(LinkTest, Table) { PlayTable("engine/link.tsv"); }
 
 TEST_F(LinkTest, AnswersOfOneSession) {
     StartOctave();
@@ -99,53 +121,6 @@ TEST_F(LinkTest, LongAnswersComeWhole) {
     EXPECT_EQ(Send("for i=1:20000,printf('%d\\n',i);end"), lines);
 }
 
-TEST_F(LinkTest, EscapeBreaksOffWhatDoesNotEnd) {
-    StartOctave();
-    Send("before=1;");
-    for (const char* endless :
-         {"disp(1);while true,end", "disp(1);system('sleep 30');", "disp(1);x=builtin('input','');",
-          "disp(1);builtin('keyboard');", "disp(1);pause(30);"}) {
-        QElapsedTimer clock;
-        clock.start();
-        const auto answer = Stopped(endless, 400);
-        EXPECT_TRUE(answer.starts_with("1\n")) << answer;
-        EXPECT_TRUE(answer.ends_with("Stopped.\n")) << answer;
-        EXPECT_LT(clock.elapsed(), 20000) << endless;
-        EXPECT_EQ(Send("before"), "before = 1\n") << endless;
-    }
-}
-
-TEST_F(LinkTest, ADeafEngineIsEndedByForce) {
-    StartOctave();
-    EXPECT_EQ(Stopped("system(\"trap '' INT;sleep 30\");", 100),
-              "Stopped.\nMatlab has been ended by signal 9.\n");
-    EXPECT_EQ(Raised("x"), 282);
-}
-
-TEST_F(LinkTest, AnEngineThatEndsIsToldAndMissed) {
-    for (const auto& [last, told] : std::map<std::string, std::string>{
-             {"disp(1);exit(3)", "1\nMatlab has ended with exit code 3.\n"},
-             {"disp(1);kill(getpid(),9);", "1\nMatlab has been ended by signal 9.\n"}}) {
-        StartOctave();
-        EXPECT_EQ(Send(last), told);
-        EXPECT_EQ(Raised("x=1"), 282);
-    }
-}
-
-/// What can't be read is told by the box that wrote it, and by the line of that box.
-TEST_F(LinkTest, ComplaintsNameTheBox) {
-    StartOctave();
-    const auto told = [&](const std::string& script, const LineBoxes& boxes) {
-        LinkExecute(script, boxes);
-        const auto answer = LinkRequest();
-        return answer.substr(0, answer.find('\n'));
-    };
-    EXPECT_EQ(told("x=[1 2\r\n", {4}), "box4: parse error near line 1");
-    EXPECT_EQ(told("warning('careful')\r\n", {1}), "warning: careful");
-    EXPECT_EQ(told("y=1;\r\nfor i=1:3\r\n", {7, 8}), "");
-    EXPECT_EQ(LinkFinish(true), "box8: The block that begins here is never closed.\n");
-}
-
 /// While a script runs, nothing else starts, by whatever way it comes; the question of a script is
 /// answered all the same.
 TEST_F(LinkTest, NothingStartsWhileAScriptRuns) {
@@ -157,33 +132,6 @@ TEST_F(LinkTest, NothingStartsWhileAScriptRuns) {
     EXPECT_EQ(started, 0);
     start();
     EXPECT_EQ(started, 1);
-}
-
-TEST_F(LinkTest, ARunStartsAnEngineWhereNoneAnswers) {
-    Draw({{"Constant Input", "1", {}, {2}},
-          {"Compute Function", "exit(box1+3)", {1}, {3}},
-          {"Compute Function", "b=exist('box1')", {2}}});
-    screen.Answers = {"y", "y"};
-    mnuEXEMatlab_Click(Sheet());
-    EXPECT_EQ(frmTextResults.txt.Text,
-              "box1=1;\r\nbox2=0;exit(box1+3)\r\nMatlab has ended with exit code 4.\n"
-              "box3=0;b=exist('box1')\r\nb = 0\n");
-    EXPECT_EQ(screen.Asked.size(), 2U);
-}
-
-/// Only the first plot of a run is led in; with a screen or without, none of them holds it up.
-TEST_F(LinkTest, PlotsOfARun) {
-    StartOctave();
-    Draw({{"Constant Input", "[1 2 3]", {}, {2, 3}},
-          {"Plot Output", "x;plot(Input1)", {1}},
-          {"Plot Output", "x;plot(Input1)", {1}}});
-    mnuEXEMatlab_Click(Sheet());
-    const auto& log = frmTextResults.txt.Text;
-    const auto first = log.find("\nsystem_dependent(12,'off');figure;plot(box1);\r\n");
-    EXPECT_NE(first, std::string::npos) << log;
-    EXPECT_NE(log.find("plot(box1);", first + 60), std::string::npos) << log;
-    EXPECT_EQ(log.find("undefined"), std::string::npos) << log;
-    EXPECT_EQ(Send("x=1"), "x = 1\n");
 }
 
 TEST_F(LinkTest, ExamplesGiveTheirNumbersBoxByBox) {
@@ -211,13 +159,6 @@ TEST_F(LinkTest, ExamplesGiveTheirNumbersBoxByBox) {
         printed += Send(ChecksOf(name));
     }
     ExpectGood(printed, ExampleNames());
-}
-
-TEST_F(LinkTest, ProgramsThatAreNoEngine) {
-    for (const char* program : {"/nowhere/octave", "/bin/false"}) {
-        EXPECT_THROW(StartLink(program), RuntimeError) << program;
-        EXPECT_EQ(Raised("x=1"), 282);
-    }
 }
 
 /// False for a process that is gone, or that has ended and waits to be buried.

@@ -3,6 +3,8 @@
 // end in any of its ways, in a run-time error too; it may not crash, hang, ask for ever or leave
 // marks behind, and what was saved must come back.
 
+#include <random>
+
 #include "check/check_document.h"
 #include "commands/matrix_input.h"
 #include "diagram/box_table.h"
@@ -17,42 +19,29 @@ using namespace quorvane::testing;
 
 namespace {
 
-constexpr unsigned MostQuestions = 50;
-constexpr unsigned MostCalls = 200000;
-
-/// Answers in a circle, from a place that the input's hash tells, and gives up after a while.
-struct CyclicDesktop : ScriptedDesktop {
+/// Answers at random, by the input's hash.
+struct RandomDesktop : ScriptedDesktop {
     std::uint32_t Hash = 0;
-    unsigned Calls = 0;
-    unsigned Questions = 0;
+    std::minstd_rand Chance;
+    int Calls = 0;
     std::string SavedAs;
 
-    void Count() { Check(++Calls <= MostCalls, "the run never comes to its end"); }
-    /// Answers a question by the next of `choices` in the circle.
     template <class T>
-    T Next(std::initializer_list<T> choices) {
-        Count();
-        return choices.begin()[(Hash + ++Questions) % choices.size()];
+    T Any(std::initializer_list<T> choices) {
+        Check(++Calls <= 200000, "the run never comes to its end");
+        return choices.begin()[Chance() % choices.size()];
     }
-
     Answer MsgBox(const Message& message) override {
         using enum Answer;
-        Count();
-        if (message.Choice == Buttons::Ok) return Ok;
-        const bool tired = Questions >= MostQuestions;
-        if (message.Choice == Buttons::AbortRetryIgnore) {
-            const auto answer = Next({Retry, Ignore, (Hash & 4U) != 0 ? Abort : Ignore});
-            return tired ? Abort : answer;
-        }
-        const auto answer = Next({Yes, Yes, Yes, No});
-        return tired ? No : answer;
+        if (message.Choice == Buttons::Ok) return Any({Ok});
+        if (message.Choice == Buttons::AbortRetryIgnore) return Any({Retry, Ignore, Ignore, Abort});
+        return Any({Yes, Yes, Yes, No});
     }
-    std::string InputBox(const std::string&, const std::string&,
-                         const std::string& defaultText) override {
-        return Next<std::string>({defaultText, "1 2 3", "", "1~2"});
+    std::string InputBox(const std::string&, const std::string&, const std::string& text) override {
+        return Any<std::string>({text, "1 2 3", "", "1~2"});
     }
     std::string OpenFileDialog(const std::string&, const std::string&) override {
-        std::string path = Next({"", "/data/values.txt", "values", "C:\\data\\a.m", ".txt", "/"});
+        std::string path = Any({"", "/data/values.txt", "values", "C:\\data\\a.m", ".txt", "/"});
         if (path.empty()) throw RuntimeError(32755);
         return path;
     }
@@ -61,15 +50,9 @@ struct CyclicDesktop : ScriptedDesktop {
     }
     void ShowModal(std::string_view form) override {
         Check(form == "frmMatrix", "the run opens the form " + std::string(form));
-        const int wayOut = Next({0, 1, 2});
+        const int wayOut = Any({0, 1, 2});
         if (wayOut == 2) frmMatrix.grid.Cell(1, 1) = "3";
         if (wayOut != 0) frmMatrix_cmdOK_Click();
-    }
-    void OpenLink() {
-        constexpr int failures[] = {0, 0, 0, 282, 5};
-        Count();
-        const int failure = failures[(Hash / 16U + 2 * Calls - 1) % 5];
-        if ((Hash & 8U) != 0 && failure != 0) throw RuntimeError(failure);
     }
 };
 
@@ -99,7 +82,7 @@ void LoadBehindItself(const std::string& path) {
     }
 }
 
-void Compile(const CyclicDesktop& screen, int document) {
+void Compile(const RandomDesktop& screen, int document) {
     const auto mode = static_cast<std::int16_t>(screen.Hash & 1U);
     frmPrefs.chkInput.Value = (screen.Hash & 2U) != 0 ? 1 : 0;
     try {
@@ -134,7 +117,7 @@ bool AsSaved(int document, std::map<int, Box>& saved) {
     return fits && order.size() == saved.size();
 }
 
-void SaveAndLoadAgain(CyclicDesktop& screen, int document) {
+void SaveAndLoadAgain(RandomDesktop& screen, int document) {
     std::map<int, Box> saved;
     const bool comparable = AsSaved(document, saved);
     SaveDocument(static_cast<std::int16_t>(document), 2);
@@ -163,12 +146,16 @@ void CheckLeavesNoTrace(int document) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     return RunInput("input.qvm", data, size, [](const std::string& bytes, const std::string& path) {
-        CyclicDesktop screen;
+        RandomDesktop screen;
         screen.Hash = HashOf(bytes);
         screen.SavedAs = FuzzFolder() / "saved.qvm";
         desktop = &screen;
         matlabLink = screen.Link();
-        matlabLink.Open = [&] { screen.OpenLink(); };
+        screen.Chance.seed(screen.Hash);
+        matlabLink.Open = [&] {
+            const int failure = screen.Any({0, 0, 0, 0, 282, 5});
+            if (failure != 0) throw RuntimeError(failure);
+        };
         LoadDocumentFile(path);
         if (screen.Hash / 256 % 4 == 0) LoadBehindItself(path);
         Check(NextBox >= 1 && NextBox <= MaxBoxes + 1, "a load left a wrong number of boxes");

@@ -8,12 +8,6 @@
 
 namespace quorvane::testing {
 
-/// Remembers what the window of the scan says each time the screen is painted.
-struct WatchingDesktop : ScriptedDesktop {
-    void PaintNow() override { Seen.push_back(frmScanning.lblScanning.Caption); }
-    std::vector<std::string> Seen;
-};
-
 /// Plays the tables of the scan for M-files and of the browser. The program directory is program/,
 /// the drive is drive/.
 class BrowserTest : public StepTest {
@@ -23,6 +17,17 @@ protected:
             {"make", Step([this](A a) { Make(a.Text); })},
             {"index", Step([this](A a) { WriteAll(MFileIndex, Replaced(a.Text, "@", drive)); })},
             {"scan", Seen([this](A) { return Scan(); })},
+            {"watched", Seen([this](A) {
+                 std::vector<std::string> seen;
+                 screen.AtPaint = [&] { seen.push_back(frmScanning.lblScanning.Caption); };
+                 frmScanning_Activate();
+                 screen.AtPaint = [] {};
+                 return Taken(seen);
+             })},
+            {"category", Seen([this](A a) {
+                 const auto& row = CategoryTable[a[0]];
+                 return row.name + Shortened(row.path);
+             })},
             {"drives", Global(frmPrefs.txtDrives.Text)},
             {"load", Step([](A) { frmMatlab_Load(); })},
             {"forget", Step([](A) { CategoryTable = GrowableArray<CategoryRecord>(1); })},
@@ -40,18 +45,11 @@ protected:
                  frmMatlab_lstFunc_Click();
              })},
             {"picked", Seen([this](A a) { return Picked(a[0], a.Text); })},
-            {"told", Seen([this](A) { return Taken(watching.Messages); })},
-            {"shown", Seen([this](A) { return Taken(watching.FormsShown); })},
-            {"answer", Step([this](A a) {
-                 watching.MessageAnswers = {a.Text == "yes" ? Answer::Yes : Answer::No};
-             })},
         });
     }
     void SetUp() override {
         StepTest::SetUp();
-        watching = {};
-        desktop = &watching;
-        watching.Forms["frmScanning"] = frmScanning_Activate;
+        screen.Forms["frmScanning"] = frmScanning_Activate;
         for (const char* name : {"program", "drive"}) std::filesystem::create_directory(name);
         ProgramDirectory = folder / "program";
         ChangeDirectory(ProgramDirectory);
@@ -81,7 +79,6 @@ protected:
     }
 
     const std::string drive = folder / "drive";
-    WatchingDesktop watching;
 
 private:
     std::string Shortened(const std::string& text) const {
@@ -102,7 +99,7 @@ private:
 
     /// What the two callers of the browser hold when a function was picked for one of them.
     std::string Picked(int chosen, const std::string& caller) {
-        watching.Forms["frmMatlab"] = [=, this] {
+        screen.Forms["frmMatlab"] = [=, this] {
             EXPECT_EQ(frmFunc.Form.MousePointer + frmMatlabFunction.Form.MousePointer, 0);
             frmMatlab.cmbCategory.Text = "zzz All M files zzz";
             frmMatlab_cmbCategory_Click();
@@ -119,28 +116,5 @@ private:
 };
 
 TEST_F(BrowserTest, Table) { PlayTable("matlab_link/command_browser.tsv"); }
-
-TEST_F(BrowserTest, LinksAreNotFollowedAndWhatIsNoFileIsNone) {
-    Make("a/f.m|a/d.m/|z/");
-    std::filesystem::create_directory_symlink("..", drive + "/a/loop");
-    std::filesystem::create_symlink("f.m", drive + "/a/to_file.m");
-    std::filesystem::create_symlink("d.m", drive + "/a/to_folder.m");
-    std::filesystem::create_symlink("itself.m", drive + "/a/itself.m");
-    EXPECT_EQ(Scan(), "[Directories]|a;@/a|[Files]|@/a/f.m|@/a/to_file.m|");
-}
-
-TEST_F(BrowserTest, TheWindowTellsHowFarItIsAlsoWhereNothingCanBeWritten) {
-    Make("a/f.m");
-    frmPrefs.txtDrives.Text = "aC";
-    frmScanning.Form.Visible = true;
-    std::filesystem::create_directory(MFileIndex);
-    frmScanning_Activate();
-    EXPECT_EQ(Taken(watching.Seen),
-              "Now scanning drive A: | Now scanning drive C: | Now writing directories. | "
-              "Now writing file names.");
-    EXPECT_FALSE(frmScanning.Form.Visible);
-    EXPECT_EQ(CategoryTable.UpperBound(), 2);
-    EXPECT_EQ(CategoryTable[2].name + CategoryTable[2].path, "a" + drive + "/a");
-}
 
 }  // namespace quorvane::testing

@@ -49,7 +49,6 @@ protected:
             {"lines", Seen([](A a) { return PartsOf(a.Text); })},
             {"fields", Seen([](A a) { return PartsOf(a.Text, InputField); })},
             {"replace", OfFile([](auto& file, auto& text) { ReplaceFile(file, text); })},
-            {"link", OfFile([](auto& file, auto& to) { fs::create_symlink(to, file); })},
             {"target", Seen([](A a) { return fs::read_symlink(a.Text).string(); })},
             {"allow", OfFile([](auto& file, auto& mode) {
                  chmod(file.c_str(), static_cast<mode_t>(std::stoi(mode, nullptr, 8)));

@@ -32,7 +32,7 @@ struct ScriptedDesktop : QuietDesktop {
     std::vector<std::string> Clipboard;  ///< Every text put there
     bool Ended = false;
     std::deque<int> Seconds;  ///< What the clock reads; 0 when they run out
-    int Paints = 0;
+    std::function<void()> AtPaint = [] {};
     std::vector<std::string> HelpCommands;  ///< File, "|", code
     std::vector<std::string> Processes;     ///< Started programs
     bool ProcessesFail = false;
@@ -76,7 +76,7 @@ struct ScriptedDesktop : QuietDesktop {
     void ArrangeWindows(int how) override { Arrangements.push_back(how); }
     void SetClipboardText(const std::string& text) override { Clipboard.push_back(text); }
     int ClockSeconds() override { return Seconds.empty() ? 0 : Take(Seconds); }
-    void PaintNow() override { ++Paints; }
+    void PaintNow() override { AtPaint(); }
     void Help(const std::string& file, int command) override {
         HelpCommands.push_back(file + "|" + std::to_string(command));
     }

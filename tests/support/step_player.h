@@ -120,6 +120,11 @@ private:
             {"get", Seen([](A a) { return ReadAll(a.Text); })},
             {"names", Seen([](A) { return NamesIn("."); })},
             {"folder", Step([](A a) { std::filesystem::create_directories(a.Text); })},
+            {"link", Step([this](A a) {
+                 auto to = a.Text;
+                 const auto name = InFolder(TakeWord(to));
+                 std::filesystem::create_symlink(to, name);
+             })},
             {"enter", Step([this](A a) { ChangeDirectory(InFolder(a.Text)); })},
             {"where", Seen([this](A) { return Here(CurrentDirectory()); })},
             {"open", Step([](A a) { OpenForInput(a[0], a.Text); })},

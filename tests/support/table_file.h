@@ -12,13 +12,10 @@ namespace quorvane::testing {
 
 /// Parts a line at the separators; an empty line is one empty part.
 inline std::vector<std::string> Split(const std::string& line, char separator) {
-    std::vector<std::string> parts(1);
-    for (const char c : line) {
-        if (c == separator) {
-            parts.emplace_back();
-        } else {
-            parts.back() += c;
-        }
+    std::vector<std::string> parts;
+    for (std::size_t from = 0, to = 0; to != std::string::npos; from = to + 1) {
+        to = line.find(separator, from);
+        parts.push_back(line.substr(from, to - from));
     }
     return parts;
 }
