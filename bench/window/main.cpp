@@ -24,6 +24,7 @@
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/qt_desktop.h"
 #include "qt/frame/frame_view.h"
+#include "qt/sheet/worksheet_view.h"
 #include "shell/application.h"
 #include "shell/start_up.h"
 
@@ -104,6 +105,14 @@ double Memory() {
     return static_cast<double>(resident * sysconf(_SC_PAGESIZE)) / 1e6;
 }
 
+/// Brings the mouse over a box, or away from it, as the screen tells it.
+void Hover(QWidget* box, bool over) {
+    const QPointF at(5, 5);
+    QEnterEvent enter(at, at, box->mapToGlobal(at));
+    QEvent leave(QEvent::Leave);
+    QCoreApplication::sendEvent(box, over ? static_cast<QEvent*>(&enter) : &leave);
+}
+
 void MoveTo(QWidget* widget, QPoint at, Qt::MouseButtons buttons) {
     QMouseEvent move(QEvent::MouseMove, at, widget->mapToGlobal(at), Qt::NoButton, buttons,
                      Qt::NoModifier);
@@ -127,6 +136,7 @@ void MeasureSheet(FrameView& frame) {
         MoveTo(surface, {i * 2 % surface->width(), 55}, Qt::NoButton);
     });
     Measure("mouse move on and off a box, bubble", 2, 500, [&](int i) {
+        Hover(box, i % 2 == 0);
         if (i % 2) {
             MoveTo(surface, {5, 5}, Qt::NoButton);
         } else {
@@ -136,6 +146,19 @@ void MeasureSheet(FrameView& frame) {
     Measure("mouse move that stretches the rubber band", 2, 500, [&](int i) {
         MoveTo(surface, {2 + i * 2, 2 + i}, Qt::LeftButton);
     });
+}
+
+void MeasureScales(FrameView& frame) {
+    Worksheet& sheet = *Documents[1];
+    auto* view = static_cast<WorksheetView*>(frame.Area()->subWindowList().constFirst()->widget());
+    for (const int percent : {25, 50, 100, 200, 400}) {
+        view->SetZoom(percent);
+        const auto what = "at " + std::to_string(percent) + " %, arrows drawn anew";
+        Measure(what.c_str(), 16, 100, [&](int i) { Recolor(sheet, i); });
+    }
+    Measure("zoom by a step", 50, 60,
+            [&](int i) { i / 15 % 2 ? view->ZoomIn() : view->ZoomOut(); });
+    view->SetZoom(100);
 }
 
 }  // namespace
@@ -173,6 +196,7 @@ int main(int argc, char** argv) {
     std::printf("%d boxes, %d arrows, surface %d x %d\n", NextBox - 1, Arrows, surface->width(),
                 surface->height());
     MeasureSheet(frame);
+    MeasureScales(frame);
     Report("memory with this sheet", Memory(), 80, "MB");
     std::printf("\n");
     return 0;

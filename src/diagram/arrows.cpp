@@ -60,8 +60,7 @@ void DrawArrow(int source, int destination, int entry, const char* /*mode*/, int
         const Pen pen = {Boxes[source].BoxLineColor[entry], window.DrawWidth};
         const auto& S = window.box[source];
         const auto& D = window.box[destination];
-        DrawLegs(window.Surface, pen, S, D, entry);
-        window.Surface.push_back(Head(pen, S, D, LandingPoint(D, entry)));
+        DrawLegsAndHead(window.Surface, pen, S, D, entry);
     });
 }
 
@@ -71,6 +70,12 @@ void DrawLegs(std::vector<DrawnShape>& surface, const Pen& pen, const BoxControl
     const double y = S.Top + S.Height / 2;
     surface.push_back(Line(pen, S.Left + entry * (S.Width / 5), y, x, S.Top + D.Height / 2));
     surface.push_back(Line(pen, x, y, x, D.Top));
+}
+
+void DrawLegsAndHead(std::vector<DrawnShape>& surface, const Pen& pen, const BoxControl& S,
+                     const BoxControl& D, int entry) {
+    DrawLegs(surface, pen, S, D, entry);
+    surface.push_back(Head(pen, S, D, LandingPoint(D, entry)));
 }
 
 int FindEntrySlot(int source, int destination) {

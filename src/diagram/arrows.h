@@ -24,6 +24,10 @@ void DrawArrow(int source, int destination, int entry, const char* mode, int doc
 void DrawLegs(std::vector<DrawnShape>& surface, const Pen& pen, const BoxControl& S,
               const BoxControl& D, int entry);
 
+/// Paints the legs and the head of such an arrow.
+void DrawLegsAndHead(std::vector<DrawnShape>& surface, const Pen& pen, const BoxControl& S,
+                     const BoxControl& D, int entry);
+
 /// The lowest entry of `destination` that holds `source`, 1 when there is none.
 int FindEntrySlot(int source, int destination);
 

@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: MIT
 #include "qt/desktop/icon_strip.h"
 
+#include <QCache>
 #include <QFile>
 #include <QPainter>
 #include <QSvgRenderer>
-#include <map>
+#include <utility>
 
 namespace quorvane {
 
@@ -24,10 +25,13 @@ QPixmap Draw(int cell, int devicePixels) {
 }  // namespace
 
 QPixmap CellPixmap(int cell, int pixels, qreal devicePixelRatio) {
-    static std::map<std::pair<int, int>, QPixmap> drawn;
+    constexpr int largestMemory = 16 << 20;
+    static QCache<std::pair<int, int>, QPixmap> drawn(largestMemory);
     const int devicePixels = qRound(pixels * devicePixelRatio);
-    auto& pixmap = drawn[{cell, devicePixels}];
-    if (pixmap.isNull()) pixmap = Draw(cell, devicePixels);
+    const auto* known = drawn.object({cell, devicePixels});
+    auto pixmap = known ? *known : Draw(cell, devicePixels);
+    if (!known)
+        drawn.insert({cell, devicePixels}, new QPixmap(pixmap), 4 * devicePixels * devicePixels);
     pixmap.setDevicePixelRatio(devicePixelRatio);
     return pixmap;
 }

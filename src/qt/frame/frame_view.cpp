@@ -20,10 +20,12 @@
 #include "qt/desktop/dispatch.h"
 #include "qt/dialogs/form_view.h"
 #include "qt/frame/bar_view.h"
+#include "qt/frame/sheet_keys.h"
 #include "qt/frame/splash_view.h"
 #include "qt/frame/toolbox_view.h"
 #include "qt/link/results_view.h"
 #include "qt/sheet/box_view.h"
+#include "qt/sheet/sheet_marks.h"
 #include "qt/sheet/worksheet_view.h"
 #include "shell/frame.h"
 #include "toolbox/toolbox.h"
@@ -122,6 +124,7 @@ FrameView::FrameView() {
     splash_ = std::make_unique<SplashView>();
     frameMenus_ = MakeFrameMenus(this);
     documentMenus_ = MakeDocumentMenus(this);
+    AddSheetKeys(*this);
     connect(area_, &QMdiArea::subWindowActivated, this, &FrameView::Activated);
     RefreshScreen = [this] { Refresh(); };
     const auto screenArea = screen()->availableGeometry();
@@ -136,6 +139,7 @@ FrameView::~FrameView() {
     RefreshScreen = [] {};
     activeDocument = 0;
     poppedDocument = 0;
+    showsBoxNumbers = false;
     frameView = nullptr;
 }
 

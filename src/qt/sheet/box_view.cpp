@@ -2,51 +2,64 @@
 #include "qt/sheet/box_view.h"
 
 #include <QApplication>
+#include <QCache>
 #include <QDrag>
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
-#include <array>
-#include <map>
 
 #include "commands/worksheet_events.h"
+#include "diagram/box_info.h"
 #include "diagram/box_table.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/icon_strip.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/sheet/mouse.h"
+#include "qt/sheet/surface_view.h"
 
 namespace quorvane {
 
 namespace {
 
+constexpr int PlainSide = 33;  ///< Of a box at its own size, in pixels
+
+/// The outline and the rounding grow with the box; the outline stays on whole pixels.
 QPixmap DrawFace(int cell, int side, bool focused, qreal ratio) {
+    const int line = qMax(1, side / PlainSide);
+    const double rounding = 4.0 * side / PlainSide;
     QPixmap face(QSize(side, side) * ratio);
     face.setDevicePixelRatio(ratio);
     face.fill(Qt::transparent);
     QPainter painter(&face);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(
-        QPen(focused ? QColor(0xFF, 0xB3, 0x00) : QColor(0x3A, 0x42, 0x4C), focused ? 2 : 1));
+        QPen(focused ? FocusColor : QColor(0x3A, 0x42, 0x4C), focused ? 2 * line : line));
     painter.setBrush(PaperColor);
-    painter.drawRoundedRect(QRectF(0.5, 0.5, side - 1, side - 1), 4, 4);
-    painter.drawPixmap(QPointF(1.5, 1.5), CellPixmap(cell, side - 3, ratio));
+    painter.drawRoundedRect(QRectF(line / 2.0, line / 2.0, side - line, side - line), rounding,
+                            rounding);
+    painter.drawPixmap(QPointF(1.5, 1.5) * line, CellPixmap(cell, side - 3 * line, ratio));
     return face;
 }
 
-/// A box as it looks on the screen. Faces are drawn once for each cell, state and resolution: a
-/// full worksheet paints hundreds of them at a time.
+/// A box as it looks on the screen. Faces are drawn once for each cell, state, size and resolution:
+/// a full worksheet paints hundreds of them at a time. Those not seen for long are dropped.
 QPixmap Face(int cell, int side, bool focused, qreal ratio) {
-    static std::map<std::array<int, 4>, QPixmap> drawn;
-    auto& face = drawn[{cell, side, focused ? 1 : 0, qRound(ratio * 100)}];
-    if (face.isNull()) face = DrawFace(cell, side, focused, ratio);
+    constexpr int largestMemory = 16 << 20;
+    static QCache<QList<int>, QPixmap> drawn(largestMemory);
+    const QList<int> key = {cell, side, focused ? 1 : 0, qRound(ratio * 100)};
+    if (const auto* face = drawn.object(key)) return *face;
+    auto face = DrawFace(cell, side, focused, ratio);
+    drawn.insert(key, new QPixmap(face), face.width() * face.height() * 4);
     return face;
 }
+
+/// No arrow, box or group waits for the next click.
+bool IsIdle(const Worksheet& sheet) { return EditMode == 1 && !sheet.pnlArrow.HoldsArrow; }
 
 }  // namespace
 
-BoxView::BoxView(int document, int number, QWidget* surface)
-    : QWidget(surface), document_(document), number_(number) {
+BoxView::BoxView(int document, int number, SurfaceView* surface)
+    : QWidget(surface), document_(document), number_(number), surface_(surface) {
     setObjectName(QString("box(%1)").arg(number));
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
@@ -55,8 +68,9 @@ BoxView::BoxView(int document, int number, QWidget* surface)
 Worksheet& BoxView::Sheet() const { return DocumentWindow(document_); }
 
 void BoxView::Refresh(const BoxControl& control) {
-    const QRect place(ToPixels(control.Left), ToPixels(control.Top), ToPixels(control.Width),
-                      ToPixels(control.Height));
+    const auto& scale = surface_->Scale();
+    const QRect place(scale.ToPixels(control.Left, control.Top),
+                      QSize(scale.ToPixels(control.Width), scale.ToPixels(control.Height)));
     if (geometry() != place) setGeometry(place);
     if (picture_ != control.Picture) {
         picture_ = control.Picture;
@@ -85,19 +99,33 @@ void BoxView::paintEvent(QPaintEvent*) {
     QPainter(this).drawPixmap(0, 0, Face(picture_, width(), hasFocus(), devicePixelRatioF()));
 }
 
+/// The middle button may be about to pan: its press counts when it is let go in place.
 void BoxView::mousePressEvent(QMouseEvent* event) {
     pressed_ = event->button() == Qt::LeftButton;
     pressedAt_ = event->pos();
+    surface_->NotePress(pressed_ && IsIdle(Sheet()) ? number_ : 0);
+    if (event->button() == Qt::MiddleButton) {
+        return surface_->Pan().Press(event->globalPosition().toPoint());
+    }
     Dispatch([&] {
         box_MouseDown(Sheet(), number_, ButtonNumber(event->button()),
                       ShiftNumber(event->modifiers()));
     });
 }
 
-/// A double click is one click: its second press does nothing.
-void BoxView::mouseDoubleClickEvent(QMouseEvent*) {}
+/// A double click opens the information, but is one click where a click means something. Its first
+/// half must have been on this box: the click that places a box has it under the mouse at once.
+void BoxView::mouseDoubleClickEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) return mousePressEvent(event);
+    const bool isSecond = surface_->LastPress() == number_;
+    surface_->NotePress(0);
+    if (event->button() != Qt::LeftButton || !isSecond) return;
+    Dispatch([&] { OpenBoxInfo(Sheet(), number_); });
+}
 
 void BoxView::mouseMoveEvent(QMouseEvent* event) {
+    const auto at = event->globalPosition().toPoint();
+    if (surface_->Pan().Move(at, event->buttons())) return;
     if (pressed_ && dragAutomatic_) {
         const auto moved = (event->pos() - pressedAt_).manhattanLength();
         if (moved >= QApplication::startDragDistance()) StartDrag();
@@ -107,10 +135,19 @@ void BoxView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void BoxView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) {
+        if (!surface_->Pan().Release()) return surface_->Refresh();
+        return Dispatch([&] {
+            box_MouseDown(Sheet(), number_, MiddleButton, ShiftNumber(event->modifiers()));
+        });
+    }
     if (event->button() != Qt::LeftButton || !pressed_) return;
     pressed_ = false;
     if (!dragAutomatic_ && rect().contains(event->pos())) Click();
 }
+
+void BoxView::enterEvent(QEnterEvent*) { surface_->Hover(number_); }
+void BoxView::leaveEvent(QEvent*) { surface_->Hover(0); }
 
 void BoxView::Click() {
     Dispatch([&] { box_Click(Sheet(), number_); });

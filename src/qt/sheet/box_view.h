@@ -8,10 +8,12 @@
 
 namespace quorvane {
 
+class SurfaceView;
+
 /// The control of one box on a worksheet.
 class BoxView : public QWidget {
 public:
-    BoxView(int document, int number, QWidget* surface);
+    BoxView(int document, int number, SurfaceView* surface);
     /// Takes over what has changed in the record.
     void Refresh(const BoxControl& control);
     int Document() const { return document_; }
@@ -24,6 +26,8 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    void enterEvent(QEnterEvent* event) override;
+    void leaveEvent(QEvent* event) override;
 
 private:
     Worksheet& Sheet() const;
@@ -32,6 +36,7 @@ private:
 
     int document_;
     int number_;
+    SurfaceView* surface_;
     std::string type_;  ///< The box type in the accessible name
     int picture_ = -1;
     int pointer_ = -1;

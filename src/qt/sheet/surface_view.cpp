@@ -7,11 +7,12 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <utility>
 
 #include "commands/worksheet_events.h"
+#include "diagram/selection.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
-#include "qt/sheet/box_view.h"
 #include "qt/sheet/mouse.h"
 #include "qt/sheet/shape_painter.h"
 
@@ -19,25 +20,17 @@ namespace quorvane {
 
 namespace {
 
-/// Dark enough for the light arrows of a new worksheet and for the inverted rubber band, light
-/// enough for the black of the heads.
-const QColor sheetColor(0x4C, 0x58, 0x66);
-
-QRect BandOf(const RectangleShape& shape) {
+QRect BandOf(const RectangleShape& shape, const SheetScale& scale) {
     if (!shape.Visible) return {};
-    return {ToPixels(shape.Left), ToPixels(shape.Top), qMax(1, ToPixels(shape.Width)),
-            qMax(1, ToPixels(shape.Height))};
-}
-
-bool SameShape(const DrawnShape& a, const DrawnShape& b) {
-    return a.Shape == b.Shape && a.Color == b.Color && a.Width == b.Width && a.X1 == b.X1 &&
-           a.Y1 == b.Y1 && a.X2 == b.X2 && a.Y2 == b.Y2 && a.Radius == b.Radius &&
-           a.StartAngle == b.StartAngle && a.EndAngle == b.EndAngle;
+    const auto from = scale.ToPixels(shape.Left, shape.Top);
+    const auto to = scale.ToPixels(shape.Left + shape.Width, shape.Top + shape.Height);
+    return {from, QSize(qMax(1, to.x() - from.x()), qMax(1, to.y() - from.y()))};
 }
 
 }  // namespace
 
-SurfaceView::SurfaceView(int document, QWidget* parent) : QWidget(parent), document_(document) {
+SurfaceView::SurfaceView(int document, const SheetScale& scale, QWidget* parent)
+    : QWidget(parent), document_(document), scale_(scale), pan_(document, scale) {
     setObjectName("surface");
     setAccessibleName("Worksheet surface");
     setMouseTracking(true);
@@ -50,28 +43,52 @@ Worksheet& SurfaceView::Sheet() const { return DocumentWindow(document_); }
 
 void SurfaceView::Refresh() {
     const auto& sheet = Sheet();
-    if (!std::equal(drawn_.begin(), drawn_.end(), sheet.Surface.begin(), sheet.Surface.end(),
-                    SameShape)) {
+    auto labels = BoxLabelsOf(sheet);
+    if (percent_ != scale_.Percent || !SameShapes(drawn_, sheet.Surface) || labels_ != labels) {
+        percent_ = scale_.Percent;
         drawn_ = sheet.Surface;
+        labels_ = std::move(labels);
         layerIsOld_ = true;
         update();
     }
-    const auto band = BandOf(sheet.shpCopy);
+    const auto band = BandOf(sheet.shpCopy, scale_);
     if (band != band_) {
-        UpdateBand(band_);
-        UpdateBand(band);
+        UpdateEdges(band_);
+        UpdateEdges(band);
         band_ = band;
     }
-    const auto shape = PointerShape(sheet.MousePointer);
+    RefreshMarks();
+    const auto shape = pan_.IsMoving() ? Qt::ClosedHandCursor : PointerShape(sheet.MousePointer);
     if (cursor().shape() != shape) setCursor(shape);
 }
 
-/// Only the edges of the band are painted, so only they are repainted.
-void SurfaceView::UpdateBand(const QRect& band) {
-    if (band.isEmpty()) return;
+void SurfaceView::RefreshMarks() {
+    const auto& sheet = Sheet();
+    auto highlight = HighlightOf(sheet, hovered_);
+    if (!SameHighlight(highlight_, highlight)) {
+        update(RegionOf(highlight_, scale_) + RegionOf(highlight, scale_));
+        highlight_ = std::move(highlight);
+    }
+    const auto pending = PendingFrame(sheet, scale_);
+    if (pending != pending_) {
+        UpdateEdges(pending_);
+        UpdateEdges(pending);
+        pending_ = pending;
+    }
+}
+
+/// The mouse leaves a box, too, when its worksheet has just been closed.
+void SurfaceView::Hover(int number) {
+    hovered_ = number;
+    if (document_ <= Documents.UpperBound() && Documents[document_]) RefreshMarks();
+}
+
+/// Only the edges of a frame are painted, so only they are repainted.
+void SurfaceView::UpdateEdges(const QRect& frame) {
+    if (frame.isEmpty()) return;
     constexpr int margin = 2;
-    const auto outer = band.adjusted(-margin, -margin, margin, margin);
-    update(QRegion(outer) - QRegion(band.adjusted(margin, margin, -margin, -margin)));
+    const auto outer = frame.adjusted(-margin, -margin, margin, margin);
+    update(QRegion(outer) - QRegion(frame.adjusted(margin, margin, -margin, -margin)));
 }
 
 void SurfaceView::DrawLayer() {
@@ -79,9 +96,10 @@ void SurfaceView::DrawLayer() {
     if (layer_.size() != needed) layer_ = QPixmap(needed);
     layer_.setDevicePixelRatio(devicePixelRatioF());
     layerIsOld_ = false;
-    layer_.fill(sheetColor);
+    layer_.fill(SheetColor);
     QPainter painter(&layer_);
-    PaintShapes(painter, drawn_);
+    PaintShapes(painter, drawn_, scale_);
+    if (!labels_.empty()) PaintBoxLabels(painter, labels_, scale_, rect());
 }
 
 void SurfaceView::paintEvent(QPaintEvent* event) {
@@ -91,31 +109,53 @@ void SurfaceView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
     painter.drawPixmap(0, 0, layer_);
+    if (!highlight_.Arrows.empty()) {
+        PaintHighlight(painter, highlight_, scale_);
+        PaintBoxLabels(painter, labels_, scale_, event->rect());
+    }
+    PaintPendingFrame(painter, pending_);
     if (band_.isEmpty()) return;
     painter.setCompositionMode(QPainter::CompositionMode_Difference);
     painter.setPen(QPen(Qt::white, 1));
     painter.drawRect(band_.adjusted(0, 0, -1, -1));
 }
 
+/// The middle button may be about to pan: its press counts when it is let go in place.
 void SurfaceView::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
+    NotePress(0);
+    if (event->button() == Qt::MiddleButton) {
+        return pan_.Press(event->globalPosition().toPoint());
+    }
+    TakePress(event);
+}
+
+void SurfaceView::TakePress(QMouseEvent* event) {
+    const auto at = scale_.ToUnits(event->pos());
     Dispatch([&] {
         main_MouseDown(Sheet(), ButtonNumber(event->button()), ShiftNumber(event->modifiers()),
-                       ToUnits(event->pos().x()), ToUnits(event->pos().y()));
+                       at.x(), at.y());
     });
 }
 
 void SurfaceView::mouseMoveEvent(QMouseEvent* event) {
+    if (pan_.Move(event->globalPosition().toPoint(), event->buttons())) return;
+    const auto at = scale_.ToUnits(event->pos());
     Dispatch([&] {
         main_MouseMove(Sheet(), ButtonNumber(event->buttons()), ShiftNumber(event->modifiers()),
-                       ToUnits(event->pos().x()), ToUnits(event->pos().y()));
+                       at.x(), at.y());
     });
 }
 
 void SurfaceView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() == Qt::MiddleButton) {
+        if (!pan_.Release()) return Refresh();
+        TakePress(event);
+    }
+    const auto at = scale_.ToUnits(event->pos());
     Dispatch([&] {
         main_MouseUp(Sheet(), ButtonNumber(event->button()), ShiftNumber(event->modifiers()),
-                     ToUnits(event->pos().x()), ToUnits(event->pos().y()));
+                     at.x(), at.y());
     });
 }
 
@@ -126,9 +166,9 @@ void SurfaceView::dragEnterEvent(QDragEnterEvent* event) {
 void SurfaceView::dropEvent(QDropEvent* event) {
     if (!event->mimeData()->hasFormat(DragType(BoxDrag))) return;
     const int number = event->mimeData()->data(DragType(BoxDrag)).toInt();
-    const auto at = event->position().toPoint();
+    const auto at = scale_.ToUnits(event->position().toPoint());
     event->acceptProposedAction();
-    Dispatch([&] { main_DragDrop(Sheet(), number, ToUnits(at.x()), ToUnits(at.y())); });
+    Dispatch([&] { main_DragDrop(Sheet(), number, at.x(), at.y()); });
 }
 
 /// Scrolling is the worksheet's.
@@ -146,46 +186,55 @@ QPoint SurfaceView::MovePointer(QPoint by) {
 }
 
 /// The keyboard can do what the mouse does: arrow keys move the pointer (with Ctrl by a pixel),
-/// with Shift they draw the selection, and Enter or Space presses.
+/// with Shift they draw the selection, and Enter or Space presses. The keys of a box come here,
+/// too.
 void SurfaceView::keyPressEvent(QKeyEvent* event) {
     const int step = event->modifiers() & Qt::ControlModifier ? 1 : 15;
     const bool selects = event->modifiers() & Qt::ShiftModifier;
-    QPoint by;
+    if (event->matches(QKeySequence::SelectAll)) return Dispatch([&] { SelectAll(Sheet()); });
+    const bool isPlain = !(event->modifiers() & ~Qt::KeypadModifier);
+    if (event->key() == Qt::Key_Delete && isPlain) {
+        return Dispatch([&] { mnuEditClear_Click(Sheet()); });
+    }
     switch (event->key()) {
-        case Qt::Key_Left: by = {-step, 0}; break;
-        case Qt::Key_Right: by = {step, 0}; break;
-        case Qt::Key_Up: by = {0, -step}; break;
-        case Qt::Key_Down: by = {0, step}; break;
+        case Qt::Key_Left: return MoveByKey({-step, 0}, selects);
+        case Qt::Key_Right: return MoveByKey({step, 0}, selects);
+        case Qt::Key_Up: return MoveByKey({0, -step}, selects);
+        case Qt::Key_Down: return MoveByKey({0, step}, selects);
         case Qt::Key_Return:
         case Qt::Key_Enter:
-        case Qt::Key_Space: {
-            const auto at = MovePointer({});
-            // Moving the pointer over the sheet runs the command that the toolbox has fired.
-            Dispatch([&] {
-                main_MouseMove(Sheet(), 0, 0, ToUnits(at.x()), ToUnits(at.y()));
-                main_MouseDown(Sheet(), LeftButton, 0, ToUnits(at.x()), ToUnits(at.y()));
-                main_MouseUp(Sheet(), LeftButton, 0, ToUnits(at.x()), ToUnits(at.y()));
-            });
-            return;
-        }
-        default: QWidget::keyPressEvent(event); return;
+        case Qt::Key_Space: return PressKey();
+        default: QWidget::keyPressEvent(event);
     }
-    const auto from = MovePointer({});
-    const auto to = MovePointer(by);
+}
+
+/// Moving the pointer over the sheet runs the command that the toolbox has fired.
+void SurfaceView::PressKey() {
+    const auto at = scale_.ToUnits(MovePointer({}));
+    Dispatch([&] {
+        main_MouseMove(Sheet(), 0, 0, at.x(), at.y());
+        main_MouseDown(Sheet(), LeftButton, 0, at.x(), at.y());
+        main_MouseUp(Sheet(), LeftButton, 0, at.x(), at.y());
+    });
+}
+
+void SurfaceView::MoveByKey(QPoint by, bool selects) {
+    const auto from = scale_.ToUnits(MovePointer({}));
+    const auto to = scale_.ToUnits(MovePointer(by));
     Dispatch([&] {
         if (selects && !keyboardBand_) {
-            main_MouseMove(Sheet(), LeftButton, 0, ToUnits(from.x()), ToUnits(from.y()));
+            main_MouseMove(Sheet(), LeftButton, 0, from.x(), from.y());
         }
         keyboardBand_ = selects;
-        main_MouseMove(Sheet(), selects ? LeftButton : 0, 0, ToUnits(to.x()), ToUnits(to.y()));
+        main_MouseMove(Sheet(), selects ? LeftButton : 0, 0, to.x(), to.y());
     });
 }
 
 void SurfaceView::keyReleaseEvent(QKeyEvent* event) {
     if (event->key() != Qt::Key_Shift || !keyboardBand_) return;
     keyboardBand_ = false;
-    const auto at = MovePointer({});
-    Dispatch([&] { main_MouseUp(Sheet(), LeftButton, 0, ToUnits(at.x()), ToUnits(at.y())); });
+    const auto at = scale_.ToUnits(MovePointer({}));
+    Dispatch([&] { main_MouseUp(Sheet(), LeftButton, 0, at.x(), at.y()); });
 }
 
 }  // namespace quorvane

@@ -9,6 +9,7 @@
 #include <QToolButton>
 
 #include "catalogue/icon_table.h"
+#include "diagram/box_info.h"
 #include "diagram/box_table.h"
 #include "diagram/connections.h"
 #include "diagram/layout.h"
@@ -17,6 +18,7 @@
 #include "qt/desktop/screen_units.h"
 #include "qt/sheet/box_view.h"
 #include "qt/sheet/shape_painter.h"
+#include "qt/sheet/sheet_scroll.h"
 #include "qt/sheet/surface_view.h"
 #include "qt/sheet/tour_view.h"
 
@@ -41,12 +43,27 @@ QIcon ArrowPanelFace(const ArrowPanel& panel, const QSize& size, qreal ratio) {
     return face;
 }
 
-void FollowRecord(QScrollBar* bar, const SheetScrollBar& record) {
+QPointF CornerOf(const Worksheet& sheet) { return QPointF(sheet.scrH.Value, sheet.scrV.Value); }
+
+/// Boxes with some room round them.
+QRectF Framed(const QRectF& boxes) {
+    constexpr double margin = 10 * UnitsPerPixel;
+    return boxes.isEmpty() ? boxes : boxes.adjusted(-margin, -margin, margin, margin);
+}
+
+/// Where a view of this size has to start, as near as possible to `start`, to show all from one
+/// edge to the other, or nothing else where that is more than it can show.
+double KeepInView(double start, double size, double from, double to) {
+    return qBound(qMin(from, to - size), start, qMax(from, to - size));
+}
+
+/// The steps move the picture by as many pixels at each scale.
+void FollowRecord(QScrollBar* bar, const SheetScrollBar& record, const SheetScale& scale) {
     const QSignalBlocker quiet(bar);
     bar->setGeometry(ToPixels(record.Place));
     bar->setRange(record.Min, record.Max);
-    bar->setSingleStep(record.SmallChange);
-    bar->setPageStep(record.LargeChange);
+    bar->setSingleStep(qCeil(record.SmallChange / scale.Factor()));
+    bar->setPageStep(qCeil(record.LargeChange / scale.Factor()));
     bar->setValue(record.Value);
 }
 
@@ -54,7 +71,7 @@ void FollowRecord(QScrollBar* bar, const SheetScrollBar& record) {
 
 WorksheetView::WorksheetView(int document) : document_(document) {
     setObjectName("main");
-    surface_ = new SurfaceView(document, this);
+    surface_ = new SurfaceView(document, scale_, this);
     bubble_ = new QLabel(surface_);
     bubble_->setObjectName("txtboxname");
     bubble_->setTextFormat(Qt::PlainText);
@@ -120,14 +137,15 @@ void WorksheetView::resizeEvent(QResizeEvent*) {
 /// A notch of the wheel moves the sheet by as much on both axes; with Shift it moves sideways. What
 /// a fine wheel turns beyond a whole unit counts with its next turn.
 void WorksheetView::wheelEvent(QWheelEvent* event) {
+    event->accept();
+    if (event->modifiers() & Qt::ControlModifier) return ZoomByWheel(event);
     auto turn = event->angleDelta();
     if (event->modifiers() & Qt::ShiftModifier && turn.x() == 0) turn = turn.transposed();
-    turned_ += turn * NotchUnits;
+    turned_ += turn * qRound(NotchUnits / scale_.Factor());
     const QPoint units = turned_ / QWheelEvent::DefaultDeltasPerStep;
     turned_ -= units * QWheelEvent::DefaultDeltasPerStep;
     if (units.x() != 0) scrH_->setValue(scrH_->value() - units.x());
     if (units.y() != 0) scrV_->setValue(scrV_->value() - units.y());
-    event->accept();
 }
 
 /// The bars' own steps are for their arrows; the wheel does the same over a bar as over the sheet.
@@ -140,8 +158,8 @@ bool WorksheetView::eventFilter(QObject* watched, QEvent* event) {
 /// The keys that the sheet and its boxes don't use scroll, with Shift sideways.
 void WorksheetView::keyPressEvent(QKeyEvent* event) {
     auto* bar = event->modifiers() & Qt::ShiftModifier ? scrH_ : scrV_;
-    const int page = static_cast<int>(
-        ToUnits(bar == scrH_ ? surface_->width() : surface_->height()) - NotchUnits);
+    const int seen = bar == scrH_ ? surface_->width() : surface_->height();
+    const int page = static_cast<int>(scale_.ToUnits(seen) - NotchUnits / scale_.Factor());
     switch (event->key()) {
         case Qt::Key_PageUp: return bar->setValue(bar->value() - page);
         case Qt::Key_PageDown: return bar->setValue(bar->value() + page);
@@ -157,12 +175,80 @@ void WorksheetView::ShowBox(int number) {
         const int last = place + 2 * room - seen;
         bar->setValue(qMax(qMin(bar->value(), place - room / 2), last));
     };
-    show(scrH_, Boxes[number].BoxLeft, static_cast<int>(ToUnits(surface_->width())));
-    show(scrV_, Boxes[number].BoxTop, static_cast<int>(ToUnits(surface_->height())));
+    show(scrH_, Boxes[number].BoxLeft, static_cast<int>(scale_.ToUnits(surface_->width())));
+    show(scrV_, Boxes[number].BoxTop, static_cast<int>(scale_.ToUnits(surface_->height())));
     auto* box = boxes_.size() > static_cast<std::size_t>(number)
                     ? boxes_[static_cast<std::size_t>(number)]
                     : nullptr;
     if (box) box->setFocus(Qt::ShortcutFocusReason);
+}
+
+/// With Ctrl the wheel zooms, a step for each notch; the place under the mouse stays.
+void WorksheetView::ZoomByWheel(const QWheelEvent* event) {
+    zoomTurned_ += event->angleDelta().y();
+    const int notches = zoomTurned_ / QWheelEvent::DefaultDeltasPerStep;
+    zoomTurned_ -= notches * QWheelEvent::DefaultDeltasPerStep;
+    auto zoomed = scale_;
+    for (int i = 0; i < notches; ++i) zoomed.Percent = zoomed.NextStep();
+    for (int i = 0; i > notches; --i) zoomed.Percent = zoomed.StepBefore();
+    if (zoomed.Percent == scale_.Percent) return;
+    const auto at = surface_->mapFromGlobal(event->globalPosition());
+    const auto place = CornerOf(Sheet()) + at * scale_.PixelUnits();
+    Dispatch([&] { Rescale(zoomed.Percent, place - at * zoomed.PixelUnits()); });
+}
+
+/// Shows the sheet at this scale, with this place in the upper left corner if the bars reach it.
+/// What scrolling takes away stays: this is none to the user.
+void WorksheetView::Rescale(int percent, QPointF corner) {
+    auto& sheet = Sheet();
+    auto band = sheet.shpCopy;
+    const auto before = CornerOf(sheet);
+    scale_.Percent = percent;
+    HideBubble(sheet);
+    ScrollTo(sheet, corner);
+    const auto moved = CornerOf(sheet) - before;
+    band.Left -= moved.x();
+    band.Top -= moved.y();
+    if (band.Visible) sheet.shpCopy = band;
+}
+
+void WorksheetView::SetZoom(int percent) {
+    SheetScale scale;
+    scale.Percent = qBound(SmallestZoom, percent, LargestZoom);
+    if (scale.Percent == scale_.Percent) return;
+    const auto corner = CornerOf(Sheet());
+    const QRectF view(corner, QSizeF(surface_->size()) * scale_.PixelUnits());
+    const auto boxes = Framed(DiagramExtent(Sheet())).translated(corner);
+    const auto seen = view & boxes;
+    const auto middle = boxes.isEmpty() ? corner : (seen.isEmpty() ? view : seen).center();
+    const auto at = (middle - corner) / scale_.PixelUnits();
+    auto wanted = middle - at * scale.PixelUnits();
+    if (!seen.isEmpty()) {
+        const auto next = QSizeF(surface_->size()) * scale.PixelUnits();
+        wanted.setX(KeepInView(wanted.x(), next.width(), boxes.left(), boxes.right()));
+        wanted.setY(KeepInView(wanted.y(), next.height(), boxes.top(), boxes.bottom()));
+    }
+    Dispatch([&] { Rescale(scale.Percent, wanted); });
+}
+
+void WorksheetView::ZoomIn() { SetZoom(scale_.NextStep()); }
+void WorksheetView::ZoomOut() { SetZoom(scale_.StepBefore()); }
+
+void WorksheetView::ZoomToDiagram() {
+    if (DiagramExtent(Sheet()).isEmpty()) return SetZoom(100);
+    const auto boxes = Framed(DiagramExtent(Sheet())).translated(CornerOf(Sheet()));
+    const QSizeF seen = surface_->size();
+    const int fit = static_cast<int>(
+        100 * UnitsPerPixel * qMin(seen.width() / boxes.width(), seen.height() / boxes.height()));
+    SheetScale scale;
+    scale.Percent = qBound(SmallestZoom, fit, 100);
+    const QPointF middle(seen.width() / 2, seen.height() / 2);
+    const auto corner =
+        fit < SmallestZoom ? boxes.topLeft() : boxes.center() - middle * scale.PixelUnits();
+    Dispatch([&] {
+        GrowTo(Sheet(), corner);
+        Rescale(scale.Percent, corner);
+    });
 }
 
 void WorksheetView::Refresh() {
@@ -189,8 +275,8 @@ void WorksheetView::RefreshBars() {
         arrowPanel_->setIcon(ArrowPanelFace(sheet.pnlArrow, face, devicePixelRatioF()));
         arrowPanel_->setProperty("shown", state);
     }
-    FollowRecord(scrH_, sheet.scrH);
-    FollowRecord(scrV_, sheet.scrV);
+    FollowRecord(scrH_, sheet.scrH, scale_);
+    FollowRecord(scrV_, sheet.scrV, scale_);
     corner_->setGeometry(ToPixels(sheet.pctblank));
     surface_->setGeometry(0, 0, scrV_->x(), scrH_->y());
 }
@@ -222,7 +308,7 @@ void WorksheetView::RefreshBubble() {
     const auto& bubble = Sheet().txtboxname;
     const auto text = ToScreen(bubble.Caption);
     const bool shows = bubble.Visible && !text.isEmpty();
-    const QPoint place(ToPixels(bubble.Left), ToPixels(bubble.Top));
+    const auto place = scale_.ToPixels(bubble.Left, bubble.Top);
     if (shows && (bubble_->text() != text || bubble_->pos() != place || !bubble_->isVisible())) {
         bubble_->setText(text);
         bubble_->adjustSize();

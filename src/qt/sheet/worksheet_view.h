@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "diagram/worksheet.h"
+#include "qt/sheet/sheet_scale.h"
 
 class QLabel;
 class QProgressBar;
@@ -26,6 +27,17 @@ public:
     void Refresh();
     /// Scrolls by the least that brings a box into view, and gives it the focus.
     void ShowBox(int number);
+    /// The scale of the surface, in per cent. The middle of the boxes that are seen stays where it
+    /// is, and as many of them as fit stay in view. Where none are seen it is the middle of the
+    /// surface, and the corner of a sheet without boxes.
+    int Zoom() const { return scale_.Percent; }
+    void SetZoom(int percent);
+    /// Go to the next step and the one before.
+    void ZoomIn();
+    void ZoomOut();
+    /// The largest scale up to 100 % at which all boxes of the sheet are seen, in the middle. Where
+    /// even the smallest doesn't do, their upper left part is seen.
+    void ZoomToDiagram();
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -36,11 +48,14 @@ protected:
 private:
     Worksheet& Sheet() const { return DocumentWindow(document_); }
     void MakeBars();
+    void Rescale(int percent, QPointF corner);
+    void ZoomByWheel(const QWheelEvent* event);
     void RefreshBars();
     void RefreshBoxes();
     void RefreshBubble();
 
     int document_;
+    SheetScale scale_;
     SurfaceView* surface_;
     QProgressBar* gauge_;
     QToolButton* arrowPanel_;
@@ -50,6 +65,7 @@ private:
     QLabel* bubble_;
     TourView* tour_;
     QPoint turned_;                ///< Turns of the wheel that don't make a whole unit yet
+    int zoomTurned_ = 0;           ///< The same with Ctrl, in the wheel's own units
     std::vector<BoxView*> boxes_;  ///< By box number; nullptr where there is none
 };
 

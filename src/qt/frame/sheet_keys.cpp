@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: MIT
+#include "qt/frame/sheet_keys.h"
+
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QShortcut>
+
+#include "qt/desktop/dispatch.h"
+#include "qt/frame/frame_view.h"
+#include "qt/sheet/sheet_marks.h"
+#include "qt/sheet/worksheet_view.h"
+
+namespace quorvane {
+
+namespace {
+
+struct SheetKey {
+    const char* Keys;
+    void (*Action)(WorksheetView& view);
+};
+
+void NormalSize(WorksheetView& view) { view.SetZoom(100); }
+void ZoomIn(WorksheetView& view) { view.ZoomIn(); }
+void ZoomOut(WorksheetView& view) { view.ZoomOut(); }
+void WholeDiagram(WorksheetView& view) { view.ZoomToDiagram(); }
+
+/// On all worksheets.
+void ToggleBoxNumbers(WorksheetView& /*view*/) {
+    Dispatch([] { showsBoxNumbers = !showsBoxNumbers; });
+}
+
+constexpr SheetKey Keys[] = {
+    {"Ctrl++", ZoomIn},     {"Ctrl+=", ZoomIn},       {"Ctrl+-", ZoomOut},
+    {"Ctrl+0", NormalSize}, {"Ctrl+9", WholeDiagram}, {"Ctrl+Shift+N", ToggleBoxNumbers},
+};
+
+}  // namespace
+
+void AddSheetKeys(FrameView& frame) {
+    for (const auto& row : Keys) {
+        auto* key = new QShortcut(QKeySequence(row.Keys), &frame);
+        QObject::connect(key, &QShortcut::activated, &frame, [&frame, action = row.Action] {
+            auto* window = frame.Area()->currentSubWindow();
+            if (window) action(*static_cast<WorksheetView*>(window->widget()));
+        });
+    }
+}
+
+}  // namespace quorvane
