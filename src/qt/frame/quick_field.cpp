@@ -19,6 +19,13 @@ QuickField::QuickField(QWidget* parent) : QLineEdit(parent) {
     setPlaceholderText("Find a command or a box");
     setToolTip("Runs a command of the menu \"Functions\", or shows a box");
     setClearButtonEnabled(true);
+    // Some dark themes leave this colour at black.
+    auto colors = palette();
+    auto faint = colors.color(QPalette::Text);
+    constexpr int alpha = 150;
+    faint.setAlpha(alpha);
+    colors.setColor(QPalette::PlaceholderText, faint);
+    setPalette(colors);
     list_ = new QStringListModel(this);
     completer_ = new QCompleter(list_, this);
     completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
