@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMenu>
 #include <QShortcut>
 #include <QTimer>
 #include <QToolButton>
@@ -15,6 +16,7 @@
 #include "qt/desktop/svg_icon.h"
 #include "qt/frame/frame_view.h"
 #include "qt/frame/quick_field.h"
+#include "qt/sheet/worksheet_view.h"
 #include "shell/frame.h"
 #include "workbench/bar.h"
 #include "workbench/history.h"
@@ -30,6 +32,9 @@ constexpr int ExpiryMilliseconds = 8100;
 constexpr const char* StoreSection = "Workbench";
 constexpr const char* StoreKey = "Hide bar";
 
+/// From the smallest to the largest.
+constexpr int ZoomLevels[] = {25, 50, 75, 100, 150, 200, 300, 400};
+
 Worksheet& ActiveSheet() { return DocumentWindow(activeDocument); }
 void RunAgain() { mnuEXEMatlab_Click(ActiveSheet()); }
 
@@ -43,9 +48,10 @@ struct BarButton {
     const char* Name;
     const char* Tip;
     const char* Key;
-    void (*Press)();
+    void (*Press)();                      ///< A handler; nullptr for what the view does by itself
     bool (*Enabled)() = nullptr;        ///< Always, without one
     std::string (*Detail)() = nullptr;  ///< What the tool tip names beside it
+    void (WorksheetView::*Show)() = nullptr;
 };
 // Name and icon, tool tip, key, what a press does, when it can be pressed; from left to right.
 const BarButton barButtons[] = {
@@ -54,6 +60,8 @@ const BarButton barButtons[] = {
     {"save", "Save", "Ctrl+S", [] { mnuFileSaveFile_Click(ActiveSheet()); }, AnyWorksheet},
     {"undo", "Undo", "Ctrl+Z", Undo, CanUndo, UndoName},
     {"redo", "Redo", "Ctrl+Y", Redo, CanRedo, RedoName},
+    {"zoomOut", "Zoom out", "Ctrl+-", nullptr, AnyWorksheet, nullptr, &WorksheetView::ZoomOut},
+    {"zoomIn", "Zoom in", "Ctrl++", nullptr, AnyWorksheet, nullptr, &WorksheetView::ZoomIn},
     {"run", "Execute to Matlab", "F5", RunAgain, AnyWorksheet},
     {"stop", "Stop the run", "Esc", [] {}, LinkWaits},
 };
@@ -95,6 +103,10 @@ BarView::BarView(QWidget* frame) {
     row->addWidget(MakeLine(this));
     AddButtons("undo", "redo");
     row->addWidget(MakeLine(this));
+    AddButtons("zoomOut", "zoomOut");
+    AddZoomMenu();
+    AddButtons("zoomIn", "zoomIn");
+    row->addWidget(MakeLine(this));
     quick_ = new QuickField(this);
     quick_->setMaximumWidth(QuickWidth);
     row->addWidget(quick_, 2);
@@ -127,11 +139,38 @@ void BarView::AddButtons(const QString& from, const QString& to) {
         button->setIconSize(QSize(IconSide, IconSide));
         button->setAutoRaise(true);
         button->setFocusPolicy(Qt::TabFocus);
-        connect(button, &QToolButton::clicked, this, [&row] { Dispatch(row.Press); });
+        connect(button, &QToolButton::clicked, this, [&row] {
+            if (row.Press) return Dispatch(row.Press);
+            if (auto* view = frameView->ActiveView()) (view->*row.Show)();
+        });
         layout()->addWidget(button);
         buttons_.append(button);
         if (row.Name == to) return;
     }
+}
+
+/// The scale in per cent, with a menu of others.
+void BarView::AddZoomMenu() {
+    zoomLevel_ = new QToolButton(this);
+    zoomLevel_->setObjectName("zoomLevel");
+    zoomLevel_->setAccessibleName("Zoom");
+    zoomLevel_->setToolTip("The scale of the worksheet (Ctrl+0 for 100 %)");
+    zoomLevel_->setAutoRaise(true);
+    zoomLevel_->setFocusPolicy(Qt::TabFocus);
+    zoomLevel_->setPopupMode(QToolButton::InstantPopup);
+    auto* menu = new QMenu(zoomLevel_);
+    for (const int level : ZoomLevels) {
+        menu->addAction(QString("%1 %").arg(level), this, [level] {
+            if (auto* view = frameView->ActiveView()) view->SetZoom(level);
+        });
+    }
+    menu->addSeparator();
+    menu->addAction("Whole diagram\tCtrl+9", this, [] {
+        if (auto* view = frameView->ActiveView()) view->ZoomToDiagram();
+    });
+    zoomLevel_->setMenu(menu);
+    zoomLevel_->setMinimumWidth(zoomLevel_->fontMetrics().horizontalAdvance("400 %") + 28);
+    layout()->addWidget(zoomLevel_);
 }
 
 void BarView::AddKeys(QWidget* frame) {
@@ -172,6 +211,9 @@ void BarView::Refresh() {
         if (buttons_[i]->toolTip() != tip) buttons_[i]->setToolTip(tip);
     }
     quick_->setEnabled(AnyWorksheet());
+    zoomLevel_->setEnabled(AnyWorksheet());
+    const auto* view = frameView->ActiveView();
+    zoomLevel_->setText(QString("%1 %").arg(view ? view->Zoom() : 100));
     ShowState();
 }
 

@@ -24,12 +24,14 @@ protected:
 
 private:
     void AddButtons(const QString& from, const QString& to);
+    void AddZoomMenu();
     void AddKeys(QWidget* frame);
     void ShowState();
     void Toggle();
     void Escape();
 
     QList<QToolButton*> buttons_;
+    QToolButton* zoomLevel_ = nullptr;
     QuickField* quick_;
     QLabel* state_;
     QString text_;    ///< The state in full; the label may shorten it

@@ -28,6 +28,8 @@ public:
     void Arrange(int how);
     /// Gives the focus to the worksheet of this document, if it is there.
     void FocusWorksheet(int document);
+    /// The view of the active worksheet, nullptr when there is none.
+    WorksheetView* ActiveView() const { return ViewOf(activeDocument); }
     /// Brings the worksheet of a box to the front and scrolls it so that the box is seen.
     void ShowBox(int number);
     /// The box of the active worksheet that is under the mouse, or else has the focus; 0 for none.
