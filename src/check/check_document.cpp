@@ -100,7 +100,7 @@ std::vector<Finding> CheckDocument(int document) {
         const auto end = TryCompiling(document);
         CheckWaiting(check, end);
         if (end.Error != 0) CheckError(check, end.Error);
-        if (end.Done) CheckLeftOut(check, end);
+        if (end.End == RunEnd::Done) CheckLeftOut(check, end);
     }
     std::stable_sort(check.Found.begin(), check.Found.end(),
                      [](const Finding& one, const Finding& other) { return one.Box < other.Box; });

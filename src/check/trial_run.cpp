@@ -11,6 +11,32 @@ namespace quorvane {
 
 namespace {
 
+/// A desktop without a user that remembers what it was asked.
+struct ListeningDesktop : QuietDesktop {
+    std::vector<std::string> Asked;
+
+    Answer MsgBox(const Message& message) override {
+        Asked.push_back(message.Text);
+        return QuietDesktop::MsgBox(message);
+    }
+    std::string InputBox(const std::string& prompt, const std::string& title,
+                         const std::string& text) override {
+        Asked.push_back(prompt);
+        return QuietDesktop::InputBox(prompt, title, text);
+    }
+    std::string OpenFileDialog(const std::string& filter, const std::string& name) override {
+        Asked.push_back("Which file to read ? (" + filter.substr(0, filter.find('|')) + ")");
+        return QuietDesktop::OpenFileDialog(filter, name);
+    }
+    std::string SaveFileDialog(const std::string& filter, const std::string& name) override {
+        Asked.push_back("Which file to write ? (" + filter.substr(0, filter.find('|')) + ")");
+        return QuietDesktop::SaveFileDialog(filter, name);
+    }
+    void ShowModal(std::string_view) override {
+        Asked.emplace_back("The elements of the matrix ?");
+    }
+};
+
 /// Restores at the end of the scope what a walk changes. In between nobody is asked, and the marks
 /// of a run that may be waiting for an answer right now are off.
 class KeptState {
@@ -35,9 +61,10 @@ public:
     }
     KeptState(const KeptState&) = delete;
     KeptState& operator=(const KeptState&) = delete;
+    std::vector<std::string>& Asked() { return nobody_.Asked; }
 
 private:
-    QuietDesktop nobody_;
+    ListeningDesktop nobody_;
     Desktop* desktop_ = desktop;
     decltype(Boxes) boxes_ = Boxes;
     decltype(Front) front_ = Front;
@@ -63,16 +90,20 @@ std::vector<WaitingBox> WaitingBoxes() {
 }  // namespace
 
 TrialEnd TryCompiling(int document) {
-    const KeptState kept;
+    KeptState kept;
     TrialEnd end;
+    Run run;
+    run.Document = static_cast<std::int16_t>(document);
+    run.notesLines = true;
     try {
-        Run run;
-        run.Document = static_cast<std::int16_t>(document);
-        end.Done = WalkDocument(run) == RunEnd::Done;
-        if (!end.Done) end.Waiting = WaitingBoxes();
+        end.End = WalkDocument(run);
+        if (end.End != RunEnd::Done) end.Waiting = WaitingBoxes();
     } catch (const RuntimeError& error) {
         end.Error = error.Number;
     }
+    end.Script = std::move(run.scriptText);
+    end.BoxOfLine = std::move(run.boxOfLine);
+    end.Asked = std::move(kept.Asked());
     end.Depth = nestingDepth;
     for (const auto& box : Boxes) end.Written.push_back(IsDone(box));
     return end;

@@ -108,9 +108,13 @@ bool Succeed(Run& run, int slot, const Box& box) {
 
 /// Notes which box wrote the new lines of the script. The last one may still lack its line end.
 void NoteLines(Run& run, int box) {
-    auto lines = std::count(run.scriptText.begin(), run.scriptText.end(), '\n');
-    if (!run.scriptText.ends_with('\n') && !run.scriptText.ends_with(IndentStep)) ++lines;
-    run.boxOfLine.resize(static_cast<std::size_t>(lines), ToInt16(box));
+    const auto& text = run.scriptText;
+    if (run.boxOfLine.empty()) run.linesEnded = run.bytesCounted = 0;
+    const auto* fresh = text.data() + run.bytesCounted;
+    run.linesEnded += std::count(fresh, text.data() + text.size(), '\n');
+    run.bytesCounted = text.size();
+    const bool isOpen = !text.ends_with('\n') && !text.ends_with(IndentStep);
+    run.boxOfLine.resize(static_cast<std::size_t>(run.linesEnded + (isOpen ? 1 : 0)), ToInt16(box));
 }
 
 /// Visits one slot. The box in it is read again where it matters, since a box that opens or closes
@@ -126,7 +130,7 @@ bool VisitSlot(Run& run, int slot) {
     if (box.BoxText != "Deleted"sv) {
         Indent(run);
         EmitBox(run, found, slot);
-        if (run.Mode == 0) NoteLines(run, found);
+        if (run.Mode == 0 || run.notesLines) NoteLines(run, found);
     }
     const Box& now = ReadBox(run, Front[slot]);
     return IsDone(now) ? Succeed(run, slot, now) : Stall(run, slot);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
@@ -19,7 +20,10 @@ struct Run {
     int stallBox = 0;           ///< The box under suspicion, 0 for none
     int stallCount = 0;         ///< Failed visits since the last success after stallBox was chosen
     int boxesDone = 0;
-    LineBoxes boxOfLine;     ///< With mode 0 the box that wrote each line that is not sent yet
+    bool notesLines = false;  ///< With mode 1 boxOfLine is kept, too
+    LineBoxes boxOfLine;  ///< The box that wrote each line of scriptText, with mode 0 or where asked
+    std::ptrdiff_t linesEnded = 0;  ///< Line ends in the first bytesCounted bytes of scriptText
+    std::size_t bytesCounted = 0;
     int plotPrefixSent = 0;  ///< 1 once the first plot has gone to MATLAB
     /// What a failing statement does; some boxes turn it to Ignore for the rest of the run.
     ErrorPolicy Policy = ErrorPolicy::Fatal;

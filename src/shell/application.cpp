@@ -35,6 +35,7 @@
 #include "toolbox/toolbox_config.h"
 #include "workbench/bar.h"
 #include "workbench/history.h"
+#include "workbench/live_script.h"
 
 namespace quorvane {
 
@@ -91,6 +92,7 @@ void ResetApplication() {
     TourStep = 0;
     ResetHistory();
     ResetBar();
+    ResetLiveScripts();
     ResetForms();
 }
 

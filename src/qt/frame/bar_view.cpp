@@ -48,7 +48,7 @@ struct BarButton {
     const char* Name;
     const char* Tip;
     const char* Key;
-    void (*Press)();                      ///< A handler; nullptr for what the view does by itself
+    void (*Press)();                    ///< A handler; nullptr for what the view does by itself
     bool (*Enabled)() = nullptr;        ///< Always, without one
     std::string (*Detail)() = nullptr;  ///< What the tool tip names beside it
     void (WorksheetView::*Show)() = nullptr;
@@ -112,7 +112,6 @@ BarView::BarView(QWidget* frame) {
     row->addWidget(quick_, 2);
     row->addWidget(MakeLine(this));
     AddButtons("run", "stop");
-    row->addWidget(MakeLine(this));
     state_ = new QLabel(this);
     state_->setObjectName("state");
     state_->setTextFormat(Qt::PlainText);
@@ -171,6 +170,30 @@ void BarView::AddZoomMenu() {
     zoomLevel_->setMenu(menu);
     zoomLevel_->setMinimumWidth(zoomLevel_->fontMetrics().horizontalAdvance("400 %") + 28);
     layout()->addWidget(zoomLevel_);
+}
+
+void BarView::AddPanel(const QString& name, const QString& caption, const QString& key,
+                       QWidget* panel) {
+    auto* button = new QToolButton(this);
+    button->setObjectName(name);
+    button->setAccessibleName(caption);
+    button->setToolTip(QString("%1 (%2)").arg(caption, key));
+    button->setIcon(SvgIcon(name));
+    button->setIconSize(QSize(IconSide, IconSide));
+    button->setAutoRaise(true);
+    button->setFocusPolicy(Qt::TabFocus);
+    button->setCheckable(true);
+    button->setChecked(!desktop->ReadStore(StoreSection, ToCore(name)).empty());
+    button->setShortcut(QKeySequence(key));
+    panel->setVisible(button->isChecked());
+    connect(button, &QToolButton::toggled, this, [panel, name](bool shows) {
+        Dispatch([&] {
+            desktop->WriteStore(StoreSection, ToCore(name), shows ? "1" : "");
+            panel->setVisible(shows);
+        });
+    });
+    auto* row = static_cast<QHBoxLayout*>(layout());
+    row->insertWidget(row->indexOf(state_), button);
 }
 
 void BarView::AddKeys(QWidget* frame) {

@@ -16,6 +16,8 @@ class QuickField;
 class BarView : public QWidget {
 public:
     explicit BarView(QWidget* frame);
+    /// Adds a button that shows and hides a panel, and remembers whether it shows.
+    void AddPanel(const QString& name, const QString& caption, const QString& key, QWidget* panel);
     /// Shows what can be undone, what needs a worksheet that isn't there, and the state.
     void Refresh();
 

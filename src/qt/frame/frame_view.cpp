@@ -11,6 +11,7 @@
 #include <QMenuBar>
 #include <QScopedValueRollback>
 #include <QScreen>
+#include <QSplitter>
 #include <QVBoxLayout>
 #include <cmath>
 #include <utility>
@@ -20,6 +21,8 @@
 #include "qt/desktop/dispatch.h"
 #include "qt/dialogs/form_view.h"
 #include "qt/frame/bar_view.h"
+#include "qt/frame/boxes_panel.h"
+#include "qt/frame/script_panel.h"
 #include "qt/frame/sheet_keys.h"
 #include "qt/frame/splash_view.h"
 #include "qt/frame/toolbox_view.h"
@@ -117,7 +120,19 @@ FrameView::FrameView() {
     rows->setContentsMargins(0, 0, 0, 0);
     rows->setSpacing(0);
     rows->addWidget(bar_);
-    rows->addWidget(area_);
+    boxes_ = new BoxesPanel(inner);
+    script_ = new ScriptPanel(inner);
+    auto* beside = new QSplitter(inner);
+    for (QWidget* part : {static_cast<QWidget*>(boxes_), static_cast<QWidget*>(area_),
+                          static_cast<QWidget*>(script_)}) {
+        beside->addWidget(part);
+        beside->setCollapsible(beside->indexOf(part), false);
+    }
+    beside->setStretchFactor(1, 1);
+    beside->setSizes({PanelWidth, PanelWidth * 2, PanelWidth});
+    rows->addWidget(beside, 1);
+    bar_->AddPanel("showScript", "Script", "F7", script_);
+    bar_->AddPanel("showBoxes", "Boxes", "F8", boxes_);
     setCentralWidget(inner);
     toolbox_ = new ToolboxView(this);
     results_ = new ResultsView(this);
@@ -189,6 +204,8 @@ void FrameView::ShowRecords() {
     ShowMenus();
     splash_->Refresh();
     bar_->Refresh();
+    boxes_->Refresh();
+    script_->Refresh();
     toolbox_->Refresh();
     results_->Refresh();
     RefreshForms();

@@ -13,6 +13,8 @@ class QMdiSubWindow;
 namespace quorvane {
 
 class BarView;
+class BoxesPanel;
+class ScriptPanel;
 class SplashView;
 class ResultsView;
 class ToolboxView;
@@ -54,6 +56,8 @@ private:
 
     QMdiArea* area_;
     BarView* bar_ = nullptr;
+    BoxesPanel* boxes_ = nullptr;
+    ScriptPanel* script_ = nullptr;
     ToolboxView* toolbox_;
     ResultsView* results_ = nullptr;
     std::unique_ptr<SplashView> splash_;

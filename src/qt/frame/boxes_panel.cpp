@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: MIT
+#include "qt/frame/boxes_panel.h"
+
+#include <QHeaderView>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include "commands/worksheet_events.h"
+#include "diagram/box_table.h"
+#include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/frame/frame_view.h"
+#include "workbench/bar.h"
+#include "workbench/history.h"
+#include "workbench/outline.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr int NumberRole = Qt::UserRole;
+constexpr int FaceSide = 24;
+
+QStringList Cells(const OutlineRow& row) {
+    QStringList cells;
+    for (const auto* cell : {&row.Name, &row.Type, &row.Text, &row.From, &row.To}) {
+        cells.append(ToScreen(*cell));
+    }
+    return cells;
+}
+
+/// What a screen reader says of a row.
+QString Sentence(const OutlineRow& row) {
+    auto text = ToScreen(row.Name + " " + row.Type + " " + row.Text).simplified();
+    if (!row.From.empty()) text += ToScreen(", from " + row.From);
+    if (!row.To.empty()) text += ToScreen(", to " + row.To);
+    return text;
+}
+
+}  // namespace
+
+BoxesPanel::BoxesPanel(QWidget* parent) : QWidget(parent) {
+    setObjectName("boxesPanel");
+    setAccessibleName("Boxes");
+    filter_ = new QLineEdit(this);
+    filter_->setObjectName("filter");
+    filter_->setAccessibleName("Show only boxes with this text");
+    filter_->setPlaceholderText("Show only boxes with ...");
+    filter_->setClearButtonEnabled(true);
+    boxes_ = new QTreeWidget(this);
+    boxes_->setObjectName("boxes");
+    boxes_->setAccessibleName("Boxes");
+    boxes_->setHeaderLabels({"Box", "Type", "Text", "From", "To"});
+    boxes_->setUniformRowHeights(true);
+    boxes_->setAllColumnsShowFocus(true);
+    boxes_->setIconSize(QSize(FaceSide, FaceSide));
+    boxes_->header()->setSectionResizeMode(QHeaderView::Interactive);
+    boxes_->setToolTip(
+        "Enter shows the box, Shift+Enter its information, F2 changes it, Delete deletes it");
+    boxes_->installEventFilter(this);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(4, 4, 4, 4);
+    rows->addWidget(filter_);
+    rows->addWidget(boxes_);
+    connect(filter_, &QLineEdit::textChanged, this, &BoxesPanel::Refresh);
+    connect(boxes_, &QTreeWidget::itemClicked, this, [this] {
+        if (Current() > 0) frameView->ShowBox(Current());
+    });
+}
+
+int BoxesPanel::Current() const {
+    const auto* item = boxes_->currentItem();
+    return item ? item->data(0, NumberRole).toInt() : 0;
+}
+
+void BoxesPanel::Refresh() {
+    if (!isVisible()) return;
+    QString state = QString("%1 %2").arg(HistoryChanges()).arg(filter_->text());
+    ForEachOpenDocument([&](const Worksheet& sheet, int) { state += ToScreen(sheet.Caption); });
+    if (listed_ == state) return;
+    listed_ = state;
+    List();
+}
+
+/// The row that was current stays so.
+void BoxesPanel::List() {
+    const int current = Current();
+    const bool first = boxes_->topLevelItemCount() == 0;
+    const QSignalBlocker quiet(boxes_);
+    boxes_->clear();
+    for (const auto& row : Outline(ToCore(filter_->text()))) {
+        if (row.Box == 0) {
+            boxes_->addTopLevelItem(new QTreeWidgetItem(Cells(row)));
+            continue;
+        }
+        auto* item =
+            new QTreeWidgetItem(boxes_->topLevelItem(boxes_->topLevelItemCount() - 1), Cells(row));
+        const auto& control = Documents[row.Document]->box;
+        if (control.Has(row.Box)) {
+            item->setIcon(0, CellOnPaper(control[row.Box].Picture, FaceSide, devicePixelRatioF()));
+        }
+        item->setData(0, NumberRole, row.Box);
+        item->setData(0, Qt::AccessibleTextRole, Sentence(row));
+        if (row.Box == current) boxes_->setCurrentItem(item);
+    }
+    boxes_->expandAll();
+    if (!first) return;
+    for (int i = 0; i < boxes_->columnCount(); ++i) boxes_->resizeColumnToContents(i);
+}
+
+/// True for a key of the list.
+bool BoxesPanel::TakeKey(int key, Qt::KeyboardModifiers modifiers) {
+    const int number = Current();
+    if (number == 0) return false;
+    const auto sheet = [number]() -> Worksheet& {
+        return DocumentWindow(Boxes[number].BoxDocument);
+    };
+    switch (key) {
+        case Qt::Key_Return:
+        case Qt::Key_Enter:
+            if (modifiers & Qt::ShiftModifier) {
+                Dispatch([&] { box_MouseDown(sheet(), number, MiddleButton, 0); });
+            } else {
+                frameView->ShowBox(number);
+            }
+            return true;
+        case Qt::Key_F2: return Dispatch([&] { ChangeBox_Key(sheet(), number); }), true;
+        case Qt::Key_Delete: return Dispatch([&] { DeleteBox_Key(number); }), true;
+        default: return false;
+    }
+}
+
+bool BoxesPanel::eventFilter(QObject* watched, QEvent* event) {
+    const bool isPress = event->type() == QEvent::KeyPress;
+    if (!isPress && event->type() != QEvent::ShortcutOverride) {
+        return QWidget::eventFilter(watched, event);
+    }
+    const auto* key = static_cast<QKeyEvent*>(event);
+    if (!isPress) {
+        // The frame has keys of the same name for the sheet.
+        if (key->key() == Qt::Key_F2 || key->key() == Qt::Key_Delete) event->accept();
+        return event->isAccepted();
+    }
+    return TakeKey(key->key(), key->modifiers()) || QWidget::eventFilter(watched, event);
+}
+
+void BoxesPanel::showEvent(QShowEvent*) { Refresh(); }
+
+}  // namespace quorvane

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: MIT
+#include "qt/frame/script_panel.h"
+
+#include <QClipboard>
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTextBlock>
+#include <QVBoxLayout>
+
+#include "diagram/box_table.h"
+#include "platform/paths.h"
+#include "qt/desktop/screen_units.h"
+#include "qt/frame/frame_view.h"
+#include "workbench/history.h"
+#include "workbench/live_script.h"
+
+namespace quorvane {
+
+namespace {
+
+constexpr int BoxRole = Qt::UserRole;
+/// Findings beyond these lines are scrolled to.
+constexpr int FindingLines = 5;
+
+}  // namespace
+
+ScriptPanel::ScriptPanel(QWidget* parent) : QWidget(parent) {
+    setObjectName("scriptPanel");
+    setAccessibleName("Script");
+    title_ = new QLabel(this);
+    title_->setTextFormat(Qt::PlainText);
+    title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    copy_ = new QPushButton("Copy", this);
+    copy_->setObjectName("copy");
+    copy_->setToolTip("Copies the script to the clipboard");
+    findings_ = new QListWidget(this);
+    findings_->setObjectName("findings");
+    findings_->setAccessibleName("Findings");
+    findings_->setWordWrap(true);
+    findings_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    script_ = new QPlainTextEdit(this);
+    script_->setObjectName("script");
+    script_->setAccessibleName("Script");
+    script_->setReadOnly(true);
+    script_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    script_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    script_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    script_->setPlaceholderText("No script: see what is said above");
+    script_->viewport()->installEventFilter(this);
+    auto* head = new QHBoxLayout;
+    head->addWidget(title_, 1);
+    head->addWidget(copy_);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(4, 4, 4, 4);
+    rows->addLayout(head);
+    rows->addWidget(findings_);
+    rows->addWidget(script_, 1);
+    connect(copy_, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(ToScreen(ScriptOf(document_).Text)); });
+    connect(findings_, &QListWidget::itemActivated, this, [](const QListWidgetItem* item) {
+        if (const int box = item->data(BoxRole).toInt()) frameView->ShowBox(box);
+    });
+    connect(findings_, &QListWidget::itemClicked, findings_, &QListWidget::itemActivated);
+}
+
+void ScriptPanel::Refresh() {
+    if (!isVisible() || QGuiApplication::mouseButtons() != Qt::NoButton) return;
+    const auto& live = ScriptOf(activeDocument);
+    if (document_ != activeDocument || changes_ != HistoryChanges()) {
+        document_ = activeDocument;
+        changes_ = HistoryChanges();
+        const auto text = ToScreen(live.Text).replace("\r\n", "\n");
+        if (script_->toPlainText() != text) script_->setPlainText(text);
+        ShowFindings();
+        lit_ = 0;
+    }
+    const bool open = document_ > 0;
+    title_->setText(open ? ToScreen(FileNameOf(DocumentWindow(document_).Caption))
+                         : "No worksheet");
+    copy_->setEnabled(!live.Text.empty());
+    LightLines();
+}
+
+/// What the run would ask, then what the check finds.
+void ScriptPanel::ShowFindings() {
+    findings_->clear();
+    const auto& live = ScriptOf(document_);
+    for (const auto& asked : live.Asked) {
+        findings_->addItem("The run asks: " + ToScreen(asked).simplified());
+    }
+    for (const auto& finding : live.Findings) {
+        auto text = ToScreen(finding.Text + " " + finding.Advice);
+        if (finding.Box > 0) text.prepend(ToScreen(BoxName(finding.Box) + ": "));
+        auto* item = new QListWidgetItem(text, findings_);
+        item->setData(BoxRole, finding.Box);
+    }
+    findings_->setVisible(findings_->count() > 0);
+    const int lines = qMin(findings_->count(), FindingLines) * 2;
+    findings_->setMaximumHeight(lines * findings_->fontMetrics().lineSpacing() + 8);
+}
+
+/// In the colour of a selection, faintly.
+void ScriptPanel::LightLines() {
+    const int box = frameView->CurrentBox();
+    if (box == lit_) return;
+    lit_ = box;
+    QTextEdit::ExtraSelection lit;
+    auto color = palette().color(QPalette::Highlight);
+    constexpr int alpha = 70;
+    color.setAlpha(alpha);
+    lit.format.setBackground(color);
+    lit.format.setProperty(QTextFormat::FullWidthSelection, true);
+    QList<QTextEdit::ExtraSelection> lines;
+    for (auto block = script_->document()->begin(); block.isValid(); block = block.next()) {
+        if (box == 0 || BoxOfLine(block.blockNumber()) != box) continue;
+        lit.cursor = QTextCursor(block);
+        lines.append(lit);
+    }
+    script_->setExtraSelections(lines);
+}
+
+int ScriptPanel::BoxOfLine(int line) const {
+    const auto& boxes = ScriptOf(document_).BoxOfLine;
+    return line < static_cast<int>(boxes.size()) ? boxes[static_cast<std::size_t>(line)] : 0;
+}
+
+bool ScriptPanel::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonRelease && !script_->textCursor().hasSelection()) {
+        const auto at = static_cast<QMouseEvent*>(event)->pos();
+        const int box = BoxOfLine(script_->cursorForPosition(at).blockNumber());
+        if (box > 0) frameView->ShowBox(box);
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void ScriptPanel::showEvent(QShowEvent*) { Refresh(); }
+
+}  // namespace quorvane

@@ -1,0 +1,40 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QListWidget;
+class QPlainTextEdit;
+class QPushButton;
+
+namespace quorvane {
+
+/// The panel "Script" beside the worksheets: the script of the active one as it stands, with what
+/// the run would ask and what the check finds above it. A click on a line, or on a finding, shows
+/// its box; the box under the mouse or with the focus lights its lines.
+class ScriptPanel : public QWidget {
+public:
+    explicit ScriptPanel(QWidget* parent);
+    /// Shows the script of the active worksheet, but while the mouse is pressed or this is hidden.
+    void Refresh();
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void ShowFindings();
+    void LightLines();
+    int BoxOfLine(int line) const;
+
+    QLabel* title_;
+    QPushButton* copy_;
+    QListWidget* findings_;
+    QPlainTextEdit* script_;
+    int document_ = 0;  ///< The worksheet and the step that are shown
+    int changes_ = -1;
+    int lit_ = 0;  ///< The box whose lines are lit
+};
+
+}  // namespace quorvane
