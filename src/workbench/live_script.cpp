@@ -49,11 +49,15 @@ const LiveScript& ScriptOf(int document) {
     return kept.Script;
 }
 
+std::string InWords(const Finding& finding) {
+    return finding.Text + (finding.Text.ends_with('.') ? " " : ". ") + finding.Advice;
+}
+
 std::string FindingsOfBox(int number) {
     std::string text;
     for (const auto& finding : ScriptOf(BoxOrFree(number).BoxDocument).Findings) {
         if (finding.Box != number) continue;
-        text += (text.empty() ? "" : "\n") + finding.Text + " " + finding.Advice;
+        text += (text.empty() ? "" : "\n") + InWords(finding);
     }
     return text;
 }

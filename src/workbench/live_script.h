@@ -21,7 +21,10 @@ struct LiveScript {
 /// the diagrams have changed since it was asked for last. Empty for a document without a window.
 const LiveScript& ScriptOf(int document);
 
-/// The findings of a box, one a line, each with its advice; "" for none.
+/// What a finding says and advises.
+std::string InWords(const Finding& finding);
+
+/// The findings of a box in words, one a line; "" for none.
 std::string FindingsOfBox(int number);
 
 void ResetLiveScripts();

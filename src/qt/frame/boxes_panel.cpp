@@ -54,7 +54,6 @@ BoxesPanel::BoxesPanel(QWidget* parent) : QWidget(parent) {
     boxes_->setObjectName("boxes");
     boxes_->setAccessibleName("Boxes");
     boxes_->setHeaderLabels({"Box", "Type", "Text", "From", "To"});
-    boxes_->setUniformRowHeights(true);
     boxes_->setAllColumnsShowFocus(true);
     boxes_->setIconSize(QSize(FaceSide, FaceSide));
     boxes_->header()->setSectionResizeMode(QHeaderView::Interactive);

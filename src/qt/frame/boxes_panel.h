@@ -5,7 +5,6 @@
 
 class QLineEdit;
 class QTreeWidget;
-class QTreeWidgetItem;
 
 namespace quorvane {
 

@@ -80,6 +80,9 @@ void Tile(const QList<QMdiSubWindow*>& windows, const QRect& space) {
     }
 }
 
+/// Of a panel beside the worksheets, until the user moves its edge.
+constexpr int PanelWidth = 320;
+
 /// A worksheet's window; its document decides whether it closes.
 class WorksheetWindow : public QMdiSubWindow {
 public:
@@ -155,6 +158,7 @@ FrameView::~FrameView() {
     activeDocument = 0;
     poppedDocument = 0;
     showsBoxNumbers = false;
+    showsFindings = false;
     frameView = nullptr;
 }
 

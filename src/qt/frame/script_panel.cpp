@@ -16,6 +16,7 @@
 #include "platform/paths.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/frame/frame_view.h"
+#include "qt/sheet/sheet_marks.h"
 #include "workbench/history.h"
 #include "workbench/live_script.h"
 
@@ -94,7 +95,7 @@ void ScriptPanel::ShowFindings() {
         findings_->addItem("The run asks: " + ToScreen(asked).simplified());
     }
     for (const auto& finding : live.Findings) {
-        auto text = ToScreen(finding.Text + " " + finding.Advice);
+        auto text = ToScreen(InWords(finding));
         if (finding.Box > 0) text.prepend(ToScreen(BoxName(finding.Box) + ": "));
         auto* item = new QListWidgetItem(text, findings_);
         item->setData(BoxRole, finding.Box);
@@ -138,6 +139,11 @@ bool ScriptPanel::eventFilter(QObject* watched, QEvent* event) {
     return QWidget::eventFilter(watched, event);
 }
 
-void ScriptPanel::showEvent(QShowEvent*) { Refresh(); }
+void ScriptPanel::showEvent(QShowEvent*) {
+    showsFindings = true;
+    Refresh();
+}
+
+void ScriptPanel::hideEvent(QHideEvent*) { showsFindings = false; }
 
 }  // namespace quorvane

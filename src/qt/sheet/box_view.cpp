@@ -41,6 +41,20 @@ QPixmap DrawFace(int cell, int side, bool focused, qreal ratio) {
     return face;
 }
 
+/// An exclamation mark on an orange disc in the upper right corner.
+void PaintFindingMark(QPainter& painter, int side) {
+    const double disc = qMax(8.0, side * 0.36);
+    const QRectF place(side - disc, 0, disc, disc);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(Qt::white, 1));
+    painter.setBrush(QColor(0xD9, 0x5B, 0x0E));
+    painter.drawEllipse(place.adjusted(0.5, 0.5, -0.5, -0.5));
+    const double x = place.center().x();
+    painter.setPen(QPen(Qt::white, disc / 6, Qt::SolidLine, Qt::RoundCap));
+    painter.drawLine(QPointF(x, disc * 0.26), QPointF(x, disc * 0.54));
+    painter.drawPoint(QPointF(x, disc * 0.76));
+}
+
 /// A box as it looks on the screen. Faces are drawn once for each cell, state, size and resolution:
 /// a full worksheet paints hundreds of them at a time. Those not seen for long are dropped.
 QPixmap Face(int cell, int side, bool focused, qreal ratio) {
@@ -95,8 +109,18 @@ void BoxView::Refresh(const BoxControl& control) {
     }
 }
 
+void BoxView::SetFinding(const QString& text) {
+    if (finding_ == text) return;
+    finding_ = text;
+    setToolTip(text);
+    setAccessibleDescription(text);
+    update();
+}
+
 void BoxView::paintEvent(QPaintEvent*) {
-    QPainter(this).drawPixmap(0, 0, Face(picture_, width(), hasFocus(), devicePixelRatioF()));
+    QPainter painter(this);
+    painter.drawPixmap(0, 0, Face(picture_, width(), hasFocus(), devicePixelRatioF()));
+    if (!finding_.isEmpty()) PaintFindingMark(painter, width());
 }
 
 /// The middle button may be about to pan: its press counts when it is let go in place.

@@ -18,6 +18,8 @@ public:
     void Refresh(const BoxControl& control);
     int Document() const { return document_; }
     int Number() const { return number_; }
+    /// A mark at the corner that tells this; "" for none.
+    void SetFinding(const QString& text);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -43,6 +45,7 @@ private:
     bool dragAutomatic_ = false;
     bool pressed_ = false;
     QPoint pressedAt_;
+    QString finding_;
 };
 
 }  // namespace quorvane

@@ -12,6 +12,7 @@
 namespace quorvane {
 
 bool showsBoxNumbers = false;
+bool showsFindings = false;
 
 namespace {
 

@@ -51,6 +51,9 @@ QRegion RegionOf(const BoxHighlight& highlight, const SheetScale& scale);
 QRect PendingFrame(const Worksheet& sheet, const SheetScale& scale);
 void PaintPendingFrame(QPainter& painter, const QRect& frame);
 
+/// Boxes with a finding wear a mark: as long as the panel that lists the findings is open.
+extern bool showsFindings;
+
 /// Box numbers are written below the boxes of all worksheets.
 extern bool showsBoxNumbers;
 

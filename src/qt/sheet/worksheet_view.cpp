@@ -21,6 +21,8 @@
 #include "qt/sheet/sheet_scroll.h"
 #include "qt/sheet/surface_view.h"
 #include "qt/sheet/tour_view.h"
+#include "workbench/history.h"
+#include "workbench/live_script.h"
 
 namespace quorvane {
 
@@ -258,6 +260,7 @@ void WorksheetView::Refresh() {
     surface_->Refresh();
     RefreshBoxes();
     RefreshBubble();
+    RefreshFindings();
     tour_->Refresh(Sheet().pnlTour);
 }
 
@@ -301,6 +304,18 @@ void WorksheetView::RefreshBoxes() {
         }
         view->Refresh(controls[i]);
         before = view;
+    }
+}
+
+/// Marks the boxes with findings, as long as the panel that lists them is open. A press of the
+/// mouse puts that off.
+void WorksheetView::RefreshFindings() {
+    const int wanted = showsFindings ? HistoryChanges() : -1;
+    if (checked_ == wanted || QGuiApplication::mouseButtons() != Qt::NoButton) return;
+    checked_ = wanted;
+    for (auto* view : boxes_) {
+        if (!view) continue;
+        view->SetFinding(showsFindings ? ToScreen(FindingsOfBox(view->Number())) : QString());
     }
 }
 
