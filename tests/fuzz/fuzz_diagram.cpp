@@ -147,7 +147,7 @@ void CheckLeavesNoTrace(int document) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     return RunInput("input.qvm", data, size, [](const std::string& bytes, const std::string& path) {
         RandomDesktop screen;
-        screen.Hash = HashOf(bytes);
+        screen.Hash = DigestOf(bytes);
         screen.SavedAs = FuzzFolder() / "saved.qvm";
         desktop = &screen;
         matlabLink = screen.Link();
