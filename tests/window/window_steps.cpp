@@ -274,10 +274,18 @@ Words WindowTest::Looks() {
           {}}},
         {"value",
          {{},
-          [this](A a) { return Show(Find<QAbstractSlider>(a)->value()); },
+          [this](A a) { return Show(Find(a)->property("value").toInt()); },
           [this](A a, const std::string& text) {
               Find<QAbstractSlider>(a)->setValue(std::stoi(text));
           }}},
+        {"items", Seen([this](A a) {
+             const auto* model = Find<QAbstractItemView>(a)->model();
+             QStringList items;
+             for (int i = 0; i < model->rowCount(); ++i) {
+                 items += model->index(i, 0).data().toString().section('/', -1);
+             }
+             return ToCore(items.join(", "));
+         })},
         {"maximum", Seen([this](A a) { return Find<QAbstractSlider>(a)->maximum(); })},
         {"colored", Seen([this](A a) {
              const auto picture = Screen(Surface(a[3]));
