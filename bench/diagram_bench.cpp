@@ -20,6 +20,7 @@
 #include "support/scripted_desktop.h"
 #include "workbench/after_event.h"
 #include "workbench/history.h"
+#include "workbench/recovery.h"
 
 using namespace quorvane;
 using namespace quorvane::bench;
@@ -131,6 +132,21 @@ void Noticing(benchmark::State& state, const Shape& shape, int boxes, int moved)
     if ((HistoryChanges() == before) != (moved == 0)) state.SkipWithError("a wrong step");
 }
 
+/// Writing the recovery file of a worksheet that has changed.
+void Recovering(benchmark::State& state, const Shape& shape, int boxes) {
+    const auto subject = Prepare(shape, boxes);
+    silent.State = WorkFolder();
+    DrawOnNewSheet(subject.Boxes);
+    AfterEvent();
+    const auto prepare = [&] {
+        ++Boxes[boxes / 2].BoxLeft;
+        AfterEvent();
+    };
+    Measure(state, subject, prepare, WriteRecovery);
+    if (!HasRecoveryFile(1)) state.SkipWithError("nothing was written");
+    ResetRecovery();
+}
+
 void Stepping(benchmark::State& state, const Shape& shape, int boxes) {
     Noticing(state, shape, boxes, 15);
 }
@@ -143,8 +159,9 @@ struct Operation {
     const char* Name;
     void (*Run)(benchmark::State& state, const Shape& shape, int boxes);
 };
-constexpr Operation operations[] = {{"load", Loading}, {"compile", Compiling}, {"check", Checking},
-                                    {"save", Saving},  {"step", Stepping},     {"rest", Resting}};
+constexpr Operation operations[] = {
+    {"load", Loading},  {"compile", Compiling}, {"check", Checking},    {"save", Saving},
+    {"step", Stepping}, {"rest", Resting},      {"recover", Recovering}};
 
 /// Under the names operation/shape/boxes.
 void RegisterAll() {

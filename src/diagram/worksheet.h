@@ -110,7 +110,9 @@ struct FrameWindow {
 struct DocumentState {
     std::int16_t Modified = 0;  ///< -1 with changes that are not saved
     std::int16_t Closed = 0;    ///< -1 when the document was closed and its number is free
-    int Stored = 0;  ///< Grows when the boxes are those of a new worksheet, or of the file on disk
+    /// Grows when the boxes are those of a new worksheet, or of the file on disk; 0 when they are
+    /// those of no file.
+    int Stored = 0;
     bool SaveFailed =
         false;  ///< The system refused the last save, which passes over that in silence
 };

@@ -151,8 +151,10 @@ bool ReadBoxes(Load& load, std::int16_t base, std::int16_t count) {
     return true;
 }
 
-/// The diagram being saved: which table index has which number in the file.
+/// The diagram being saved: the table indices in the order of their numbers in the file, and by
+/// table index that number, 0 for none yet.
 std::vector<std::int16_t> numberedBoxes;
+std::vector<std::int16_t> fileNumbers;
 
 /// Overwrites each CR and the character after it with ";;", so that the text fits on a line.
 std::string WithoutLineBreaks(std::string text) {
@@ -164,12 +166,14 @@ std::string WithoutLineBreaks(std::string text) {
     return text;
 }
 
-/// The three lines of one box.
-std::string BoxRecord(std::int16_t number) {
+/// Appends the three lines of one box.
+void AppendBox(std::string& record, std::int16_t number) {
     const Box& box = Boxes[number];
-    std::string record = box.BoxType + "~";
+    record += box.BoxType;
+    record += '~';
     MapBoxNumber(number);
-    record += WithoutLineBreaks(box.BoxText) + "\r\n";
+    record += WithoutLineBreaks(box.BoxText);
+    record += "\r\n";
     for (const auto entry : box.BoxIn) {
         AppendNumber(record, MapBoxNumber(entry));
         record += '~';
@@ -186,7 +190,13 @@ std::string BoxRecord(std::int16_t number) {
     record += '~';
     AppendNumber(record, box.BoxLeft);
     record += "~\r\n";
-    return record;
+}
+
+bool HasBoxes(std::int16_t document) {
+    for (int i = 1; i < NextBox; ++i) {
+        if (BoxOrFree(i).BoxDocument == document) return true;
+    }
+    return false;
 }
 
 bool IsUntitled(const std::string& caption) { return caption.starts_with("Untitled"); }
@@ -207,26 +217,38 @@ std::size_t FindFieldEnd(std::string_view text) {
 
 std::int16_t MapBoxNumber(std::int16_t tableIndex) {
     if (tableIndex <= 0) return tableIndex;
-    const auto found = std::find(numberedBoxes.begin(), numberedBoxes.end(), tableIndex);
-    const auto position = found - numberedBoxes.begin() + 1;
-    if (found == numberedBoxes.end()) numberedBoxes.push_back(tableIndex);
-    return static_cast<std::int16_t>(position);
+    const auto index = static_cast<std::size_t>(tableIndex);
+    if (index >= fileNumbers.size()) fileNumbers.resize(index + 1);
+    if (fileNumbers[index] == 0) {
+        numberedBoxes.push_back(tableIndex);
+        fileNumbers[index] = static_cast<std::int16_t>(numberedBoxes.size());
+    }
+    return fileNumbers[index];
 }
 
 std::string DocumentText(std::int16_t document) {
     numberedBoxes.clear();
-    std::vector<std::int16_t> tableIndices;
-    std::vector<std::string> records;
+    fileNumbers.clear();
+    struct Place {
+        std::size_t At = 0, Size = 0;
+    };
+    std::string records;
+    std::vector<Place> places(static_cast<std::size_t>(std::max<int>(NextBox, 1)));
+    int count = 0;
     for (std::int16_t i = 1; i < NextBox; ++i) {
         if (Boxes[i].BoxDocument != document) continue;
-        tableIndices.push_back(i);
-        records.push_back(BoxRecord(i));
+        const auto at = records.size();
+        AppendBox(records, i);
+        places[static_cast<std::size_t>(i)] = {at, records.size() - at};
+        ++count;
     }
-    std::string text = NumberText(static_cast<std::int64_t>(records.size())) + "\r\n";
+    std::string text = NumberText(count) + "\r\n";
+    text.reserve(text.size() + records.size());
     for (const auto numbered : numberedBoxes) {
-        const auto found = std::find(tableIndices.begin(), tableIndices.end(), numbered);
-        if (found == tableIndices.end()) continue;  // a link to a box outside this document
-        text += records[static_cast<std::size_t>(found - tableIndices.begin())];
+        // A link to a box outside this document adds nothing.
+        if (numbered >= NextBox) continue;
+        const auto& place = places[static_cast<std::size_t>(numbered)];
+        text.append(records, place.At, place.Size);
     }
     return text;
 }
@@ -234,6 +256,7 @@ std::string DocumentText(std::int16_t document) {
 void ResetDocumentFile() {
     lastLoad = {};
     numberedBoxes.clear();
+    fileNumbers.clear();
 }
 
 std::int16_t NewDocument() {
@@ -241,7 +264,11 @@ std::int16_t NewDocument() {
     OpenWindow(number);
     Documents[number]->Caption = "Untitled:" + Documents[number]->Tag;
     EditMode = 1;
-    ++DocumentStates[number].Stored;
+    // A worksheet that is reused after a closing that was cancelled has boxes that no file has.
+    if (!HasBoxes(number)) {
+        ++DocumentStates[number].Stored;
+        DocumentStates[number].SaveFailed = false;
+    }
     return number;
 }
 
@@ -271,10 +298,12 @@ void LoadDocument(const std::string& name) {
     if (lastLoad.Finished) Attempt([&] { ChangeDirectory(remembered); });
 }
 
-void LoadDocumentFile(const std::string& path, void (*open)(int number, const std::string& path)) {
+void LoadDocumentFile(const std::string& path, const OpenForLoad& open) {
     lastLoad = {};
     Load load;
     load.Document = NewDocument();
+    lastLoad.Document = load.Document;
+    const bool wasEmpty = !HasBoxes(load.Document);
     load.Do([&] { open(LoadFile, path); });
     if (load.Failed) return;
     lastLoad.Opened = true;
@@ -295,7 +324,7 @@ void LoadDocumentFile(const std::string& path, void (*open)(int number, const st
     lastLoad.Finished = true;
     UpdateBoxGauge(BoxTableFill());
     window.Caption = path;
-    ++DocumentStates[load.Document].Stored;
+    if (wasEmpty) ++DocumentStates[load.Document].Stored;
     ClearSelectionRect(window.Tag);
 }
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,7 @@ extern const char* const DocumentFilter;
 
 /// How the last load ended. A load reports by messages; this is for a caller that can't show them.
 struct LoadOutcome {
+    int Document = 0;  ///< The new document
     bool Opened = false;
     bool HasCount = false;     ///< It begins with a number of boxes, as every diagram does
     bool Finished = false;     ///< It was read to its end: neither refused nor cut short
@@ -31,10 +33,11 @@ void OpenWindow(std::int16_t document);
 /// file; of any other only the last component counts, which is looked for in the current folder.
 void LoadDocument(const std::string& name);
 
-/// Loads the file at `path` into a new document. The caption becomes the path. `open` gives the
-/// file a number to read it by.
-void LoadDocumentFile(const std::string& path,
-                      void (*open)(int number, const std::string& path) = OpenForInput);
+/// Gives the file at `path` a number to read it by.
+using OpenForLoad = std::function<void(int number, const std::string& path)>;
+
+/// Loads the file at `path` into a new document. The caption becomes the path.
+void LoadDocumentFile(const std::string& path, const OpenForLoad& open = OpenForInput);
 
 /// Saves a document, 1 under its name or 2 under a name that the user gives. A document whose
 /// caption begins with "Untitled" is always asked for.

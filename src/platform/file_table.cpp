@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 #include <random>
+#include <vector>
 
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
@@ -32,8 +33,8 @@ struct StreamCloser {
 using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
 struct OpenFile {
-    Stream Source;
-    std::array<char, 16384> Buffer;
+    Stream Source;  ///< None for a text, which is in the buffer as a whole
+    std::vector<char> Buffer;
     std::size_t Next = 0;  ///< The first byte of Buffer that is not read yet
     std::size_t Filled = 0;
     bool EndedAtComma = false;  ///< The last read
@@ -72,6 +73,9 @@ fs::path Resolved(const std::string& path) {
 /// Reads on; false at the end of the file.
 bool Fill(OpenFile& file) {
     if (file.Next < file.Filled) return true;
+    if (!file.Source) return false;
+    constexpr std::size_t blockSize = 16384;
+    file.Buffer.resize(blockSize);
     file.Next = 0;
     file.Filled = std::fread(file.Buffer.data(), 1, file.Buffer.size(), file.Source.get());
     if (file.Filled == 0 && std::ferror(file.Source.get())) throw RuntimeError(57);
@@ -102,18 +106,18 @@ void RefuseIfReadOnly(const fs::path& path, const fs::file_status& status) {
     if (!probe) throw RuntimeError(75);
 }
 
-bool FlushToDisk(std::FILE* stream) {
+bool FlushToDisk(std::FILE* stream, bool synced) {
     if (std::fflush(stream) != 0) return false;
 #ifdef QUORVANE_HAS_FSYNC
     // Some file systems do not support this; only a real failure to store counts.
-    if (fsync(fileno(stream)) != 0 && errno != EINVAL && errno != EROFS) return false;
+    if (synced && fsync(fileno(stream)) != 0 && errno != EINVAL && errno != EROFS) return false;
 #endif
     return true;
 }
 
-void Store(std::FILE* stream, std::string_view text) {
-    const bool stored =
-        std::fwrite(text.data(), 1, text.size(), stream) == text.size() && FlushToDisk(stream);
+void Store(std::FILE* stream, std::string_view text, bool synced) {
+    const bool stored = std::fwrite(text.data(), 1, text.size(), stream) == text.size() &&
+                        FlushToDisk(stream, synced);
     if (!stored) throw RuntimeError(errno == ENOSPC || errno == EFBIG ? 61 : 57);
 }
 
@@ -146,6 +150,14 @@ void OpenStandardInput(int number) {
     if (element) throw RuntimeError(55);
     element = std::make_unique<OpenFile>();
     element->Source.reset(stdin);
+}
+
+void OpenText(int number, std::string_view text) {
+    auto& element = Element(number);
+    if (element) throw RuntimeError(55);
+    element = std::make_unique<OpenFile>();
+    element->Buffer.assign(text.begin(), text.end());
+    element->Filled = text.size();
 }
 
 bool EndOfFile(int number) { return !Fill(Opened(number)); }
@@ -189,7 +201,7 @@ void CloseFile(int number) {
 
 void CloseAllFiles() { openFiles = {}; }
 
-void ReplaceFile(const std::string& path, std::string_view text) {
+void ReplaceFile(const std::string& path, std::string_view text, bool synced) {
     const auto resolved = Resolved(path);
     std::error_code error;
     const auto status = fs::status(resolved, error);
@@ -198,13 +210,13 @@ void ReplaceFile(const std::string& path, std::string_view text) {
         // A device or pipe is written to; it is not a file to be replaced.
         const Stream device(std::fopen(resolved.string().c_str(), "wb"));
         if (!device) throw RuntimeError(75);
-        return Store(device.get(), text);
+        return Store(device.get(), text, synced);
     }
     RefuseIfReadOnly(resolved, status);
     fs::path aside;
     auto stream = CreateAside(resolved, aside);
     try {
-        Store(stream.get(), text);
+        Store(stream.get(), text, synced);
         stream.reset();
         fs::rename(aside, resolved, error);
         if (error) throw RuntimeError(75);

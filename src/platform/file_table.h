@@ -20,6 +20,8 @@ int FreeFile();
 void OpenForInput(int number, const std::string& path);
 /// Reads standard input; closing the number leaves it open.
 void OpenStandardInput(int number);
+/// Reads a text as if it were a file.
+void OpenText(int number, std::string_view text);
 bool EndOfFile(int number);
 /// The next line without its end; error 62 at the end of the file. The text stays valid until the
 /// next read from any file.
@@ -37,7 +39,9 @@ void CloseAllFiles();
 /// Replaces the file at `path` by one with this text. The text goes to a new file beside it, which
 /// replaces it once everything is stored: a full disk or a kill leaves the old file whole, and a
 /// reader keeps reading the old one. A device or a pipe is written to. Error 75 when the file or
-/// its folder can't be written, 61 when the disk is full, 57 for any other failure.
-void ReplaceFile(const std::string& path, std::string_view text);
+/// its folder can't be written, 61 when the disk is full, 57 for any other failure. With Unsynced
+/// it doesn't wait for the disk: the file outlives this process, but maybe not a loss of power.
+void ReplaceFile(const std::string& path, std::string_view text, bool synced = true);
+constexpr bool Unsynced = false;
 
 }  // namespace quorvane

@@ -8,10 +8,13 @@
 #include "files/document_file.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/qt_desktop.h"
+#include "qt/desktop/recovery_watch.h"
 #include "qt/frame/frame_view.h"
 #include "quorvane/version.h"
 #include "shell/application.h"
 #include "shell/start_up.h"
+#include "workbench/recovery.h"
+#include "workbench/recovery_offer.h"
 
 namespace {
 
@@ -40,6 +43,7 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon(":/quorvane.svg"));
     // Starting may lead to another folder.
     QStringList diagrams = QApplication::arguments().mid(1);
+    const bool opensAgain = diagrams.removeAll(quorvane::OpenAgain) > 0;
     for (auto& diagram : diagrams) diagram = QFileInfo(diagram).absoluteFilePath();
     quorvane::QtDesktop desktop;
     quorvane::desktop = &desktop;
@@ -48,8 +52,12 @@ int main(int argc, char** argv) {
     quorvane::FrameView frame;
     quorvane::Dispatch(quorvane::StartProgram);
     frame.show();
+    quorvane::StartRecoveryWatch();
+    quorvane::Dispatch(opensAgain ? quorvane::OpenRecovery : quorvane::OfferRecovery);
     for (const auto& diagram : diagrams) {
         quorvane::Dispatch([&] { quorvane::LoadDocumentFile(diagram.toStdString()); });
     }
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    quorvane::EndRecovery();
+    return status;
 }

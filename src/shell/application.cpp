@@ -36,6 +36,8 @@
 #include "workbench/bar.h"
 #include "workbench/history.h"
 #include "workbench/live_script.h"
+#include "workbench/recovery.h"
+#include "workbench/recovery_offer.h"
 
 namespace quorvane {
 
@@ -68,6 +70,7 @@ void ResetForms() {
     frmSubs = {};
     frmTextResults = {};
     frmUserInput = {};
+    recovery = {};
 }
 
 }  // namespace
@@ -93,6 +96,8 @@ void ResetApplication() {
     ResetHistory();
     ResetBar();
     ResetLiveScripts();
+    ResetRecovery();
+    ResetRecoveryOffer();
     ResetForms();
 }
 

@@ -14,6 +14,7 @@
 #include "shell/about.h"
 #include "shell/preferences_command.h"
 #include "toolbox/toolbox_config.h"
+#include "workbench/recovery_offer.h"
 
 namespace quorvane {
 
@@ -26,7 +27,7 @@ const std::vector<Form>& Forms() {
             frmPlot_Table(),       frmSplit_Table(),          frmSubs_Table(),
             frmUserInput_Table(),  frmAbout_Table(),          frmDisclaimer_Table(),
             frmPrefs_Table(),      frmDirectory_Table(),      frmConfigToolbox_Table(),
-            frmMatlab_Table(),     frmScanning_Table(),
+            frmMatlab_Table(),     frmScanning_Table(),       recovery_Table(),
         };
         for (const auto& list : optionLists) all.push_back(OptionList_Table(list));
         return all;

@@ -2,9 +2,13 @@
 #include "workbench/after_event.h"
 
 #include "workbench/history.h"
+#include "workbench/recovery.h"
 
 namespace quorvane {
 
-void AfterEvent() { NoteStep(); }
+void AfterEvent() {
+    NoteStep();
+    NoteRecovery();
+}
 
 }  // namespace quorvane

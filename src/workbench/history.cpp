@@ -59,6 +59,7 @@ void GoTo(std::size_t step) {
 }  // namespace
 
 void NoteStep() {
+    UpdateStoredTexts(Present());
     const int nextBox = NextBoxAtRest();
     if (nextBox < 0) return;
     if (!IsDiagramOf(Present(), nextBox)) {
@@ -105,6 +106,15 @@ bool GiveUp() {
 }
 
 int HistoryChanges() { return history.Changes; }
+
+const Snapshot& PresentSnapshot() { return Present(); }
+
+void BeginHistory() {
+    UpdateSnapshot(Present(), NextBox);
+    history.Steps = {{"", Present()}};
+    history.Present = 0;
+    ++history.Changes;
+}
 
 void ResetHistory() { history = {}; }
 

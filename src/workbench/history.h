@@ -6,6 +6,8 @@
 
 namespace quorvane {
 
+struct Snapshot;
+
 /// Undo and redo over everything that changes a diagram. There is one history for the whole
 /// program, since the numbers of boxes run over all documents.
 
@@ -30,6 +32,12 @@ bool GiveUp();
 
 /// Grows with each step that is noted, taken back or made anew.
 int HistoryChanges();
+
+/// The last state that a step has led to. An armed box is no part of it.
+const Snapshot& PresentSnapshot();
+
+/// Forgets all steps: the history begins with the present state.
+void BeginHistory();
 
 void ResetHistory();
 

@@ -138,6 +138,15 @@ bool HasWindow(int document) {
     return document <= Documents.UpperBound() && Documents[document] != nullptr;
 }
 
+void UpdateStoredText(DocumentSnapshot& document, int number) {
+    const int stored = DocumentStates[number].Stored;
+    if (document.HasWindow && document.State.Stored == stored) return;
+    auto text = stored > 0 ? DocumentText(static_cast<std::int16_t>(number)) : "";
+    const auto bytes = text.capacity();
+    document.StoredText = Keep(std::move(text), bytes);
+    document.State.Stored = stored;
+}
+
 void UpdateDocument(DocumentSnapshot& document, int number, int nextBox) {
     const auto& state = DocumentStates[number];
     if (!HasWindow(number)) {
@@ -146,11 +155,7 @@ void UpdateDocument(DocumentSnapshot& document, int number, int nextBox) {
         return;
     }
     const auto& window = *Documents[number];
-    if (!document.HasWindow || document.State.Stored != state.Stored) {
-        auto text = DocumentText(static_cast<std::int16_t>(number));
-        const auto bytes = text.capacity();
-        document.StoredText = Keep(std::move(text), bytes);
-    }
+    UpdateStoredText(document, number);
     document.HasWindow = true;
     document.State = state;
     if (document.Caption != window.Caption) document.Caption = window.Caption;
@@ -266,6 +271,13 @@ void UpdateSnapshot(Snapshot& snapshot, int nextBox) {
     snapshot.Documents.resize(static_cast<std::size_t>(Documents.UpperBound()) + 1);
     for (int i = 1; i <= Documents.UpperBound(); ++i) {
         UpdateDocument(snapshot.Documents[static_cast<std::size_t>(i)], i, nextBox);
+    }
+}
+
+void UpdateStoredTexts(Snapshot& snapshot) {
+    for (int i = 1; i < static_cast<int>(snapshot.Documents.size()); ++i) {
+        auto& document = snapshot.Documents[static_cast<std::size_t>(i)];
+        if (document.HasWindow && HasWindow(i)) UpdateStoredText(document, i);
     }
 }
 

@@ -41,7 +41,7 @@ struct DocumentSnapshot {
     std::shared_ptr<const std::vector<SheetControl>> Controls;
     /// What is painted, at its place on the sheet, in blocks, so that a new arrow shares the rest.
     std::vector<std::shared_ptr<const std::vector<DrawnShape>>> Surface;
-    /// The document's text when it was made, loaded or saved last.
+    /// The document's text when it was made, loaded or saved last; "" when no file has it.
     std::shared_ptr<const std::string> StoredText;
 };
 
@@ -58,6 +58,9 @@ bool IsDiagramOf(const Snapshot& snapshot, int nextBox);
 
 /// Brings a snapshot up to the present state.
 void UpdateSnapshot(Snapshot& snapshot, int nextBox);
+
+/// Brings only the texts of what is stored up to the present state, also while a box is armed.
+void UpdateStoredTexts(Snapshot& snapshot);
 
 /// Goes back, or on, to a snapshot from the state of `present`, its neighbour in time. Selection,
 /// armed box and pending arrow are given up. Worksheets that both have keep their scroll positions,

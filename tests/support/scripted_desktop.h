@@ -43,7 +43,8 @@ struct ScriptedDesktop : QuietDesktop {
     int MatlabStarts = 0;
     std::string Kept;  ///< What MATLAB says at the end of a run
     std::map<std::string, std::map<std::string, std::string>> Store;
-    std::string Data;  ///< The user's data folder
+    std::string Data;  ///< The user's folders for data and for state
+    std::string State;
 
     Answer MsgBox(const Message& message) override {
         Messages.push_back(message);
@@ -88,6 +89,7 @@ struct ScriptedDesktop : QuietDesktop {
     bool EngineRuns() override { return !Processes.empty(); }
     void EndProgram() override { Ended = true; }
     std::string DataFolder() override { return Data; }
+    std::string StateFolder() override { return State; }
     std::string ReadStore(const std::string& section, const std::string& key) override {
         return Store[section][key];
     }

@@ -71,6 +71,75 @@ TEST_F(DialogWindows, EveryCommandWithoutADialogMakesItsBox) {
     }
 }
 
+/// What is typed into a field of a dialog that has just opened, and what then stands there. "|" is
+/// Tab, "<" Home, "#" Backspace, "!" a click on another option.
+struct Typed {
+    const char *Command, *Field;
+    QString Keys, Text;
+};
+
+void TypeKeys(QDialog& dialog, QWidget* control, const QString& keys) {
+    const std::map<QChar, Qt::Key> named = {
+        {'|', Qt::Key_Tab}, {'<', Qt::Key_Home}, {'#', Qt::Key_Backspace}};
+    for (const auto key : keys) {
+        if (key == '!') {
+            Play("opn(1)")(dialog);
+        } else if (named.contains(key)) {
+            QTest::keyClick(control, named.at(key));
+        } else {
+            QTest::keyClicks(control, QString(key));
+        }
+    }
+}
+
+/// Types into a field, and pastes where it is a line.
+void TypeInto(QDialog& dialog, const Typed& row) {
+    dialog.activateWindow();  // Off-screen it doesn't come to the front by itself.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isActiveWindow(); }));
+    auto* control = dialog.findChild<QWidget*>(row.Field);
+    if (dialog.focusWidget() != control) control->setFocus(Qt::TabFocusReason);
+    TypeKeys(dialog, control, row.Keys);
+    auto* line = qobject_cast<QLineEdit*>(control);
+    EXPECT_EQ(line ? line->text() : static_cast<QComboBox*>(control)->currentText(), row.Text);
+    if (line && row.Keys.size() < 9) {
+        auto pasted = row.Keys;
+        QApplication::clipboard()->setText(pasted.remove(QRegularExpression("[|<#!]")));
+        line->setFocus();
+        line->selectAll();
+        line->paste();
+        line->clearFocus();
+        EXPECT_EQ(line->text(), row.Text) << "pasted";
+    }
+    dialog.done(QDialog::Accepted);
+}
+
+TEST_F(DialogWindows, WhatIsTypedStandsAsItWasTyped) {
+    std::vector<Typed> rows = {
+        {"mnuMatMakeVec", "txtMin", "5", "5"},
+        {"mnuInputPause", "lblSecs", "#3", "3"},
+        {"mnuInputPause", "lblSecs", "1e2", "1e2"},
+        {"mnuInputPause", "lblSecs", "-5", "0"},
+        {"mnuConst", "txtConst", "-x", ""},
+        {"mnuConst", "txtConst", "-|", ""},
+        {"mnuConst", "txtConst", "1e!", ""},
+        {"mnuOptionsPrefs", "txtLineWidth", "3e0", "3e0"},
+        {"mnuOptionsPrefs", "txtLineWidth", ".5", "1"},
+        {"mnuSpecSubInsert", "available_subs", "ab", "ab"},
+        {"mnuSpecSubInsert", "available_subs", "cd<ab", "abcd"},
+        {"mnuSpecComment", "txtComment", QString(100, 'a') + "<xy", "xy" + QString(98, 'a')}};
+    for (const char* number : {"-5", ".5", "1e5", "-.5e+2", "2."}) {
+        rows.push_back({"mnuOperatorsFunc", "txtRow", number, number});
+        rows.push_back({"mnuConst", "txtConst", number, number});
+    }
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.Field + (" " + row.Keys.toStdString()));
+        BeginAnew();
+        Boxes[NextBox++].BoxType = "abc Subroutine";
+        Answers = {[&](QDialog& dialog) { TypeInto(dialog, row); }};
+        Choose(row.Command);
+    }
+}
+
 TEST_F(DialogWindows, OkGivesTheFocusToTheWorksheetOfTheCommand) {
     Choose("mnuFileNew");
     Choose("mnuWindowsTile");

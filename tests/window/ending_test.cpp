@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: MIT
+#include <csignal>
 #include <new>
 
 #include "platform/runtime_error.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/qt_desktop.h"
+#include "qt/desktop/recovery_watch.h"
 #include "window/window_fixture.h"
 
 namespace quorvane::testing {
@@ -21,10 +23,17 @@ const Ending endings[] = {
 
 using EndingWindow = WindowTest;
 
+/// The program, and those that run on their own to be ended, keep the user's files here.
+void KeepFilesIn(const WorkFolder& folder) {
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    if (::testing::internal::InDeathTestChild()) return;
+    for (const char* name : {"XDG_DATA_HOME", "XDG_STATE_HOME"}) {
+        qputenv(name, folder.Path.c_str());
+    }
+}
+
 TEST_F(EndingWindow, TheDiagramsAreSavedWhateverAHandlerLetsOut) {
-    GTEST_FLAG_SET(death_test_style, "threadsafe");  // A program of its own for each ending
-    const auto data = folder.Path / "data";
-    qputenv("XDG_DATA_HOME", data.c_str());
+    KeepFilesIn(folder);
     Choose("mnuFileNew");
     Place("mnuTrigSin", {60, 50});
     Answers = {[](QDialog& dialog) {
@@ -36,6 +45,50 @@ TEST_F(EndingWindow, TheDiagramsAreSavedWhateverAHandlerLetsOut) {
                     std::string(ending.Told) + "\n\nChanged diagrams were saved as:\n/.*qvm");
     }
     Answers.clear();
+}
+
+std::string LeftDiagram() {
+    const std::filesystem::path state = qgetenv("XDG_STATE_HOME").toStdString();
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(state)) {
+        if (entry.path().filename() == "1.qvm") return ReadAll(entry.path());
+    }
+    return "";
+}
+
+TEST_F(EndingWindow, TheProgramIsStartedAnewWithWhatWasThere) {
+    KeepFilesIn(folder);
+    Choose("mnuFileNew");
+    Place("mnuTrigSin", {60, 50});
+    Answers = {[](QDialog& dialog) {
+        for (auto* button : static_cast<QMessageBox&>(dialog).buttons()) {
+            if (button->text() == "Open again") QTest::mouseClick(button, Qt::LeftButton);
+        }
+    }};
+    EXPECT_EXIT(Dispatch(endings[0].Handler), ::testing::ExitedWithCode(3), "");
+    Answers.clear();
+    const auto shown = [&] { return ReadAll(folder / "quorvane/shown"); };
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !shown().empty(); }));
+    EXPECT_EQ(shown(), "Untitled:1 Sin");
+}
+
+TEST_F(EndingWindow, WhatIsUnsavedOutlivesASignal) {
+    KeepFilesIn(folder);
+    Choose("mnuFileNew");
+    const auto endBy = [&](int signal) {
+        StartRecoveryWatch();
+        Place("mnuTrigSin", {60, 50});
+        // Nothing foretells a kill: the file has to be there by itself.
+        const auto isLeft = [] { return !LeftDiagram().empty(); };
+        if (signal == SIGKILL && !QTest::qWaitFor(isLeft)) return;
+        std::raise(signal);
+        QApplication::exec();
+    };
+    const auto state = folder.Path / "quorvane";
+    for (const int signal : {SIGTERM, SIGHUP, SIGINT, SIGKILL}) {
+        std::filesystem::remove_all(state);
+        EXPECT_EXIT(endBy(signal), ::testing::KilledBySignal(signal), "");
+        EXPECT_TRUE(LeftDiagram().starts_with("1\r\nSin~")) << signal;
+    }
 }
 
 TEST(UserFolders, FollowTheEnvironment) {

@@ -3,10 +3,14 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
 
 #include "platform/runtime_error.h"
+#include "qt/desktop/recovery_watch.h"
 #include "shell/recovery.h"
 #include "workbench/after_event.h"
+#include "workbench/recovery.h"
 
 namespace quorvane {
 
@@ -29,16 +33,25 @@ RuntimeError ErrorOf(const std::exception_ptr& thrown) {
 }
 
 /// Saves the changed documents, tells the error and where they were saved, and ends the program.
+/// The user may have it started anew with its recovery files.
 [[noreturn]] void EndAfter(const RuntimeError& error) {
     QString text = QString("Run-time error '%1':\n%2")
                        .arg(error.Number)
                        .arg(QString::fromUtf8(error.Description));
     const auto files = WriteRecoveryFiles();
+    WriteRecovery();
     if (!files.empty()) text += "\n\nChanged diagrams were saved as:";
     for (const auto& file : files) text += "\n" + QString::fromUtf8(file);
     QMessageBox box(QMessageBox::Critical, "Quorvane", text);
     box.setObjectName("runtimeError");
+    box.setDefaultButton(box.addButton(QMessageBox::Ok));
+    box.setEscapeButton(QMessageBox::Ok);
+    const QAbstractButton* openAgain = box.addButton("Open again", QMessageBox::ActionRole);
     box.exec();
+    EndRecovery();
+    if (box.clickedButton() == openAgain) {
+        QProcess::startDetached(QCoreApplication::applicationFilePath(), {OpenAgain});
+    }
     std::_Exit(3);
 }
 
@@ -77,7 +90,9 @@ void Dispatch(const std::function<void()>& handler, const QWidget* source) {
             const RunningScope running;
             handler();
         }
-        if (handlersRunning == 0) AfterEvent();
+        if (handlersRunning > 0) return;
+        AfterEvent();
+        WatchRecovery();
     });
 }
 
