@@ -8,34 +8,14 @@
 
 namespace quorvane::testing {
 
-TEST(Paths, AFileIsFoundWithoutRegardToCase) {
-    const WorkFolder folder;
-    std::filesystem::create_directory(folder / "Sub");
-    for (const char* name : {"Quorvane.INI", "b.txt", "B.TXT", "B.txt"}) {
-        WriteAll(folder / name, "");
-    }
-    const std::pair<const char*, const char*> rows[] = {
-        {"quorvane.ini", "Quorvane.INI"}, {"b.txt", "b.txt"}, {"b.Txt", "B.TXT"},
-        {"none.txt", "none.txt"},         {"SUB", "Sub"},     {"none/b.txt", "none/b.txt"},
-    };
-    for (const auto& [asked, found] : rows) {
-        EXPECT_EQ(FindInFolder(folder.Path.string(), asked), folder / found);
-    }
-    EXPECT_EQ(FileAttributes(folder / "QUORVANE.ini"), 32);
-    for (const char* name : {"sub", "none", "", "b.txt/c"}) {
-        EXPECT_EQ(RaisedError([&] { FileAttributes(folder / name); }), 53) << name;
-    }
-    const auto before = CurrentDirectory();
-    ChangeDirectory(folder.Path.string());
-    EXPECT_EQ(FindFile("quorvane.ini"), "Quorvane.INI");
-    ChangeDirectory(before);
-}
-
 /// Plays the table of what a file gives for a key, and of what a write makes of it.
 class ProfileFile : public StepTest {
 protected:
     ProfileFile() {
         Know({
+            {"found", Seen([](A a) { return FindInFolder(".", a.Text); })},
+            {"FindFile", Seen([](A a) { return FindFile(a.Text); })},
+            {"attributes", Seen([](A a) { return FileAttributes(a.Text); })},
             {"value", Seen([](A a) {
                  WriteAll("f", Bytes(a.Text));
                  return GetPrivateProfileString("s", "k", "none", "F");
