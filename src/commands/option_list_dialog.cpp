@@ -10,6 +10,7 @@
 namespace quorvane {
 
 OptionListForm frmOptionList;
+const ListOption* pickedBeforehand = nullptr;
 
 namespace {
 
@@ -168,13 +169,30 @@ void ShowOption(const OptionList& list, const Box& former) {
 
 }  // namespace
 
+namespace {
+
+/// Lets the user pick an option, unless one was picked beforehand that needs nothing more.
+void ShowList(const OptionList& list) {
+    bool asks = true;
+    for (int row = 0; row < static_cast<int>(list.Options.size()); ++row) {
+        const auto& option = list.Options[static_cast<std::size_t>(row)];
+        if (&option != pickedBeforehand) continue;
+        frmOptionList_Option_Click(row);
+        asks =
+            option.BoxText && std::string_view(option.BoxText).find(FieldHole) != std::string::npos;
+    }
+    if (asks) desktop->ShowModal(list.Dialog);
+}
+
+}  // namespace
+
 bool RunOptionList(const OptionList& list, Box& box, const Box* former) {
     for (int i = 1; i <= 3; ++i) {
         if (!IsOpen(list.Entries, i)) box.BoxIn[i] = LockedSlot;
     }
     frmOptionList_Load(list);
     if (former) ShowOption(list, *former);
-    desktop->ShowModal(list.Dialog);
+    ShowList(list);
     const auto* option = PickedOption(list);
     if (option) {
         if (!option->BoxType.empty()) box.BoxType = option->BoxType;

@@ -25,6 +25,10 @@ struct OptionListForm {
 };
 extern OptionListForm frmOptionList;
 
+/// An option that was picked before its dialog opens, nullptr for none. The dialog then shows only
+/// when the option needs the further field.
+extern const ListOption* pickedBeforehand;
+
 /// Fills the form from a list, with the option selected that OK would take.
 void frmOptionList_Load(const OptionList& list);
 /// A click on the option in this row of the list.

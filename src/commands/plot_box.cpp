@@ -12,6 +12,7 @@
 namespace quorvane {
 
 PlotForm frmPlot;
+const GraphType* typeBeforehand = nullptr;
 
 namespace {
 
@@ -359,6 +360,10 @@ Form frmPlot_Table() {
 void CompletePlot(int box, const Box* former) {
     frmPlot_Load();
     if (former) ShowPlot(*former);
+    if (typeBeforehand) {
+        frmPlot.cmbType.Text = typeBeforehand->Name;
+        frmPlot_cmbType_Change();
+    }
     desktop->ShowModal("frmPlot");
     Box& record = Boxes[box];
     record.BoxText = frmPlot.commands;

@@ -78,6 +78,9 @@ Form frmPlot_Table();
 /// Error 9 for a line outside 1 to 3.
 std::string LineStyle(int line);
 
+/// A graph type that was chosen before the dialog opens, nullptr for none.
+extern const GraphType* typeBeforehand;
+
 /// Runs the dialog for a "Plot Output" box: its text, and a lock on each entry without a mark.
 void CompletePlot(int box, const Box* former);
 

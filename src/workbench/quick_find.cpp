@@ -2,39 +2,88 @@
 #include "workbench/quick_find.h"
 
 #include <algorithm>
+#include <filesystem>
+#include <optional>
 
 #include "catalogue/box_commands.h"
+#include "catalogue/icon_table.h"
+#include "commands/option_list_dialog.h"
+#include "commands/run_command.h"
 #include "diagram/box_table.h"
+#include "files/document_file.h"
+#include "diagram/preferences.h"
 #include "platform/numbers.h"
+#include "platform/paths.h"
+#include "shell/menus.h"
+#include "workbench/history.h"
 
 namespace quorvane {
 
 namespace {
 
-bool IsWordLetter(char c) { return c != ' ' && c != '(' && c != '.' && c != ','; }
+using Words = std::vector<std::string>;
+
+bool IsWordLetter(char c) {
+    constexpr std::string_view separators = " \t\r\n(),.;:/\"";
+    return separators.find(c) == std::string_view::npos;
+}
 
 /// The words of a text in small letters.
-std::vector<std::string> Words(std::string_view text) {
-    std::vector<std::string> words;
+Words WordsOf(std::string_view text) {
+    Words words;
     bool inside = false;
-    for (const char c : LowerCase(std::string(text))) {
-        if (!IsWordLetter(c)) {
-            inside = false;
-            continue;
-        }
-        if (!inside) words.emplace_back();
-        inside = true;
-        words.back() += c;
+    for (const char c : LowerCase(text)) {
+        const bool letter = IsWordLetter(c);
+        if (letter && !inside) words.emplace_back();
+        if (letter) words.back() += c;
+        inside = letter;
     }
     return words;
 }
 
-bool Fits(const std::vector<std::string>& wanted, const std::string& text) {
-    const auto words = Words(text);
+/// What is looked for.
+struct Search {
+    std::string Text;
+    Words Wanted;
+    bool FindsAll = false;
+};
+
+bool BeginAll(const Words& wanted, const Words& words) {
     return std::all_of(wanted.begin(), wanted.end(), [&](const auto& begin) {
         return std::any_of(words.begin(), words.end(),
                            [&](const auto& word) { return word.starts_with(begin); });
     });
+}
+
+std::string FirstLetters(const Words& words) {
+    std::string letters;
+    for (const auto& word : words) letters += word[0];
+    return letters;
+}
+
+/// How well a row fits, 0 best; nothing when it doesn't. Its key counts less than its text.
+std::optional<int> Rank(const Search& search, const std::string& text, const std::string& key) {
+    if (search.FindsAll) return 0;
+    const auto lower = LowerCase(text);
+    const auto words = WordsOf(text);
+    if (lower == search.Text || LowerCase(key) == search.Text) return 0;
+    if (lower.starts_with(search.Text)) return 1;
+    if (BeginAll(search.Wanted, words)) return 2;
+    auto all = words;
+    for (auto& word : WordsOf(key)) all.push_back(std::move(word));
+    if (BeginAll(search.Wanted, all)) return 3;
+    if (search.Text.size() > 1 && FirstLetters(words).starts_with(search.Text)) return 4;
+    return {};
+}
+
+struct Hit {
+    int Rank;
+    QuickRow Row;
+};
+using Hits = std::vector<Hit>;
+
+void Add(Hits& hits, const Search& search, const std::string& key, QuickRow row) {
+    if (const auto rank = Rank(search, row.Text, key)) hits.push_back({*rank, std::move(row)});
 }
 
 /// A menu's caption without the mark of its letter and the dots that announce a dialog.
@@ -45,23 +94,135 @@ std::string PlainCaption(std::string_view caption) {
     return plain;
 }
 
-}  // namespace
-
-std::vector<QuickRow> FindQuick(std::string_view text) {
-    std::vector<QuickRow> found;
-    const auto wanted = Words(text);
-    if (wanted.empty()) return found;
+void AddCommands(Hits& hits, const Search& search) {
+    std::string menu = "Functions";
     for (const auto& row : boxCommands) {
-        auto caption = PlainCaption(row.Caption);
-        if (MakesBox(row) && Fits(wanted, caption + " " + std::string(row.BoxType))) {
-            found.push_back({std::move(caption), row.Control});
+        if (!MakesBox(row)) {
+            if (row.Caption != "-") menu = PlainCaption(row.Caption);
+            continue;
+        }
+        Add(hits, search, std::string(row.BoxType),
+            {.Text = PlainCaption(row.Caption),
+             .Where = row.Depth == 1 ? "Functions" : menu,
+             .Picture = row.Cell,
+             .Control = row.Control});
+    }
+}
+
+const BoxCommand* CommandOfDialog(std::string_view dialog) {
+    for (const auto& row : boxCommands) {
+        if (row.Dialog == dialog) return &row;
+    }
+    return nullptr;
+}
+
+void AddOptions(Hits& hits, const Search& search) {
+    for (const auto& list : optionLists) {
+        const auto* command = CommandOfDialog(list.Dialog);
+        for (int i = 0; command && i < static_cast<int>(list.Options.size()); ++i) {
+            const auto& option = list.Options[static_cast<std::size_t>(i)];
+            if (OptionName(list, option).empty()) continue;
+            const std::string text = option.BoxText ? option.BoxText : "";
+            const std::string type(option.BoxType);
+            const auto cell = IconCell(type.empty() ? text : type);
+            Add(hits, search, type + " " + text,
+                {.Text = std::string(option.Caption),
+                 .Where = std::string(list.Caption),
+                 .Picture = cell,
+                 .Control = command->Control,
+                 .List = &list,
+                 .Option = i});
         }
     }
-    for (int i = 1; i < NextBox; ++i) {
-        auto line = BoxName(i) + "  " + Boxes[i].BoxType + "  " + Boxes[i].BoxText;
-        if (Fits(wanted, line)) found.push_back({std::move(line), "", i});
+}
+
+void AddGraphs(Hits& hits, const Search& search) {
+    for (const auto& type : graphTypes) {
+        Add(hits, search, std::string(type.Command),
+            {.Text = std::string(type.Name),
+             .Where = "Plot",
+             .Picture = IconCell(type.Icon),
+             .Control = "mnuOutputPlot",
+             .Graph = &type});
     }
-    return found;
+}
+
+void AddMenus(Hits& hits, const Search& search) {
+    std::string menu;
+    for (const auto& row : documentMenu) {
+        if (row.Depth == 0) menu = PlainCaption(row.Caption);
+        // The recent files have no captions of their own.
+        if (!row.Command || row.Index >= 0) continue;
+        Add(hits, search, "",
+            {.Text = PlainCaption(row.Caption), .Where = menu, .Control = row.Control});
+    }
+}
+
+void AddBoxes(Hits& hits, const Search& search) {
+    ForEachOpenDocument([&](const Worksheet& sheet, int document) {
+        const std::string where(FileNameOf(sheet.Caption));
+        for (int i = 1; i < NextBox; ++i) {
+            const Box& box = Boxes[i];
+            if (box.BoxDocument != document) continue;
+            auto text = BoxName(i) + "  " + box.BoxType;
+            if (!box.BoxText.empty()) text += "  " + box.BoxText;
+            const int picture = sheet.box.Has(i) ? sheet.box[i].Picture : 0;
+            Add(hits, search, BoxName(i),
+                {.Text = std::move(text), .Where = where, .Picture = picture, .Box = i});
+        }
+    });
+}
+
+void AddExamples(Hits& hits, const Search& search) {
+    std::vector<std::string> files;
+    std::error_code error;
+    const std::filesystem::directory_iterator folder(JoinPath(ProgramDirectory, "examples"), error);
+    for (const auto& entry : folder) {
+        if (entry.path().extension() == ".qvm") files.push_back(entry.path().string());
+    }
+    std::sort(files.begin(), files.end());
+    for (auto& file : files) {
+        std::string name(FileNameOf(file));
+        name.resize(name.size() - std::string_view(".qvm").size());
+        std::replace(name.begin(), name.end(), '_', ' ');
+        Add(hits, search, "",
+            {.Text = std::move(name), .Where = "example", .File = std::move(file)});
+    }
+}
+
+}  // namespace
+
+std::vector<QuickRow> FindQuick(std::string_view text, bool boxesOnly) {
+    const Search search = {LowerCase(text), WordsOf(text), boxesOnly && WordsOf(text).empty()};
+    Hits hits;
+    if (search.Wanted.empty() && !search.FindsAll) return {};
+    if (!boxesOnly) {
+        AddCommands(hits, search);
+        AddOptions(hits, search);
+        AddGraphs(hits, search);
+        AddMenus(hits, search);
+    }
+    AddBoxes(hits, search);
+    if (!boxesOnly) AddExamples(hits, search);
+    std::stable_sort(hits.begin(), hits.end(),
+                     [](const Hit& one, const Hit& other) { return one.Rank < other.Rank; });
+    std::vector<QuickRow> rows;
+    for (auto& hit : hits) rows.push_back(std::move(hit.Row));
+    return rows;
+}
+
+void ChooseQuick(const QuickRow& row, Worksheet& sheet) {
+    if (!row.File.empty()) return LoadDocumentFile(row.File);
+    if (row.Box > 0) return;
+    for (const auto& entry : documentMenu) {
+        if (entry.Control == row.Control && entry.Command) return RunMenuCommand(entry, sheet);
+    }
+    GiveUp();
+    if (row.List) pickedBeforehand = &row.List->Options[static_cast<std::size_t>(row.Option)];
+    if (row.Graph) typeBeforehand = row.Graph;
+    RunBoxCommand(sheet, row.Control);
+    pickedBeforehand = nullptr;
+    typeBeforehand = nullptr;
 }
 
 }  // namespace quorvane

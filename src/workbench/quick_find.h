@@ -5,17 +5,35 @@
 #include <string_view>
 #include <vector>
 
+#include "catalogue/option_lists.h"
+#include "commands/plot_box.h"
+#include "diagram/worksheet.h"
+
 namespace quorvane {
 
-/// Something that the field "quick" finds: a command that makes boxes, or a box.
+/// Something that the field "quick" finds.
 struct QuickRow {
     std::string Text;
-    std::string_view Control;  ///< The command's menu entry; "" for a box
-    int Box = 0;               ///< 0 for a command
+    std::string Where;  ///< What it is, or where it stands: "Vector Operations", "Edit", "sine.qvm"
+    int Picture = 0;    ///< Cell of the icon strip, 0 for none
+    /// One of these says what choosing the row does.
+    std::string_view Control = "";  ///< A menu entry; with an option or graph type, its command
+    const OptionList* List = nullptr;
+    int Option = 0;  ///< Row of the list
+    const GraphType* Graph = nullptr;
+    int Box = 0;
+    std::string File = "";  ///< An example
 };
 
-/// What fits the words of a text, each of which begins a word of the row, in any case; the commands
-/// first. Nothing fits a text without words.
-std::vector<QuickRow> FindQuick(std::string_view text);
+/// What fits a text, best first: commands, options of the list dialogs, graph types, menu entries,
+/// boxes, examples. A row fits when each word of the text begins one of its words, or when the text
+/// is made of first letters of its words; the case doesn't count. With `boxesOnly` only boxes are
+/// looked for, and an empty text finds all.
+std::vector<QuickRow> FindQuick(std::string_view text, bool boxesOnly = false);
+
+/// Does what a person would do who had found the row in a menu, on this worksheet. An option or
+/// graph type is picked in its dialog, which is left to the user only where it asks for more. Boxes
+/// are shown by the screen; nothing happens for them here.
+void ChooseQuick(const QuickRow& row, Worksheet& sheet);
 
 }  // namespace quorvane

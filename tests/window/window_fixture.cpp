@@ -4,7 +4,7 @@
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/sheet/worksheet_view.h"
-#include "shell/application.h"
+#include "workbench/application.h"
 #include "shell/menus.h"
 #include "shell/start_up.h"
 

@@ -107,7 +107,8 @@ BarView::BarView(QWidget* frame) {
     AddZoomMenu();
     AddButtons("zoomIn", "zoomIn");
     row->addWidget(MakeLine(this));
-    quick_ = new QuickField(this);
+    popup_ = new QuickPopup(frame);
+    quick_ = new QuickField(this, popup_);
     quick_->setMaximumWidth(QuickWidth);
     row->addWidget(quick_, 2);
     row->addWidget(MakeLine(this));
@@ -203,6 +204,11 @@ void BarView::AddKeys(QWidget* frame) {
             if (row.Enabled()) Dispatch(row.Press);
         });
     }
+    for (const auto* keys : {"Ctrl+K", "/", "Ctrl+F"}) {
+        const bool boxesOnly = std::string_view(keys) == "Ctrl+F";
+        connect(new QShortcut(QKeySequence(keys), frame), &QShortcut::activated, this,
+                [this, boxesOnly] { OpenQuick(boxesOnly); });
+    }
     connect(new QShortcut(QKeySequence("Ctrl+B"), frame), &QShortcut::activated, this,
             &BarView::Toggle);
     connect(new QShortcut(QKeySequence(Qt::Key_Escape), frame), &QShortcut::activated, this,
@@ -214,6 +220,12 @@ void BarView::Toggle() {
         desktop->WriteStore(StoreSection, StoreKey, isHidden() ? "" : "1");
         setVisible(isHidden());
     });
+}
+
+/// At the mouse.
+void BarView::OpenQuick(bool boxesOnly) {
+    constexpr int width = 380;
+    if (AnyWorksheet()) popup_->Open(QCursor::pos(), width, "", boxesOnly);
 }
 
 /// From the field the focus goes back to the worksheet; there, what is pending is given up.

@@ -11,6 +11,7 @@ class QToolButton;
 namespace quorvane {
 
 class QuickField;
+class QuickPopup;
 
 /// The bar along the frame's upper edge: buttons, the field "quick", and the state in words.
 class BarView : public QWidget {
@@ -26,6 +27,7 @@ protected:
 
 private:
     void AddButtons(const QString& from, const QString& to);
+    void OpenQuick(bool boxesOnly);
     void AddZoomMenu();
     void AddKeys(QWidget* frame);
     void ShowState();
@@ -34,6 +36,7 @@ private:
 
     QList<QToolButton*> buttons_;
     QToolButton* zoomLevel_ = nullptr;
+    QuickPopup* popup_;
     QuickField* quick_;
     QLabel* state_;
     QString text_;    ///< The state in full; the label may shorten it

@@ -1,73 +1,138 @@
 // SPDX-License-Identifier: MIT
 #include "qt/frame/quick_field.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
-#include <QStringListModel>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QScreen>
+#include <QVBoxLayout>
 
-#include "commands/run_command.h"
 #include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/frame/frame_view.h"
-#include "workbench/history.h"
 
 namespace quorvane {
 
-QuickField::QuickField(QWidget* parent) : QLineEdit(parent) {
-    setObjectName("quick");
-    setAccessibleName("Find a command or a box");
-    setPlaceholderText("Find a command or a box");
-    setToolTip("Runs a command of the menu \"Functions\", or shows a box");
-    setClearButtonEnabled(true);
-    // Some dark themes leave this colour at black.
-    auto colors = palette();
+namespace {
+
+constexpr int RowsShown = 12;
+constexpr int MostRows = 300;
+constexpr int FaceSide = 24;
+
+/// Some dark themes leave the colour of the hint at black.
+void ShowHint(QLineEdit* field, const QString& hint) {
+    field->setPlaceholderText(hint);
+    auto colors = field->palette();
     auto faint = colors.color(QPalette::Text);
     constexpr int alpha = 150;
     faint.setAlpha(alpha);
     colors.setColor(QPalette::PlaceholderText, faint);
-    setPalette(colors);
-    list_ = new QStringListModel(this);
-    completer_ = new QCompleter(list_, this);
-    completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    completer_->setMaxVisibleItems(12);
-    completer_->setWidget(this);
-    connect(this, &QLineEdit::textEdited, this, &QuickField::Find);
-    connect(this, &QLineEdit::returnPressed, this, [this] { Choose(0); });
-    connect(completer_, qOverload<const QModelIndex&>(&QCompleter::activated), this,
-            [this](const QModelIndex& index) { Choose(index.row()); });
+    field->setPalette(colors);
 }
 
-void QuickField::Find(const QString& text) {
-    rows_ = FindQuick(ToCore(text));
-    QStringList lines;
-    for (const auto& row : rows_) lines.append(ToScreen(row.Text).simplified());
-    list_->setStringList(lines);
-    if (rows_.empty()) {
-        completer_->popup()->hide();
-    } else {
-        completer_->complete();
+}  // namespace
+
+QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
+    setObjectName("quickPopup");
+    setAccessibleName("Find");
+    setFrameShape(QFrame::StyledPanel);
+    text_ = new QLineEdit(this);
+    text_->setObjectName("quickText");
+    text_->setAccessibleName("Find");
+    text_->installEventFilter(this);
+    list_ = new QListWidget(this);
+    list_->setObjectName("quickList");
+    list_->setAccessibleName("What fits");
+    list_->setIconSize(QSize(FaceSide, FaceSide));
+    list_->setFocusProxy(text_);
+    list_->setFrameShape(QFrame::NoFrame);
+    list_->setTextElideMode(Qt::ElideRight);
+    list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    auto* rows = new QVBoxLayout(this);
+    rows->setContentsMargins(3, 3, 3, 3);
+    rows->setSpacing(3);
+    rows->addWidget(text_);
+    rows->addWidget(list_);
+    setFocusProxy(text_);
+    connect(text_, &QLineEdit::textChanged, this, &QuickPopup::Find);
+    connect(list_, &QListWidget::itemClicked, this, [this] { Choose(list_->currentRow()); });
+}
+
+void QuickPopup::Open(QPoint at, int width, const QString& text, bool boxesOnly) {
+    boxesOnly_ = boxesOnly;
+    ShowHint(text_, boxesOnly ? "Find a box" : "Find a command, an option or a box");
+    text_->setText(text);
+    Find();
+    resize(width, sizeHint().height());
+    const auto room = screen()->availableGeometry();
+    move(qBound(room.left(), at.x(), room.right() - this->width()),
+         qBound(room.top(), at.y(), room.bottom() - height()));
+    show();
+    text_->setFocus(Qt::PopupFocusReason);
+}
+
+void QuickPopup::Find() {
+    rows_ = FindQuick(ToCore(text_->text()), boxesOnly_);
+    if (rows_.size() > MostRows) rows_.resize(MostRows);
+    list_->clear();
+    for (const auto& row : rows_) {
+        auto* item = new QListWidgetItem(
+            ToScreen(row.Text).simplified() + "  -  " + ToScreen(row.Where), list_);
+        item->setSizeHint(QSize(0, FaceSide + 4));
+        if (row.Picture > 0) item->setIcon(CellOnPaper(row.Picture, FaceSide, devicePixelRatioF()));
     }
+    list_->setCurrentRow(rows_.empty() ? -1 : 0);
+    list_->setVisible(!rows_.empty());
+    list_->setFixedHeight(qMin(list_->count(), RowsShown) * (FaceSide + 4) + 4);
+    adjustSize();
 }
 
-/// A command may show a dialog, which waits until the list has gone.
-void QuickField::Choose(int row) {
+/// A command may show a dialog, which waits until this window has gone.
+void QuickPopup::Choose(int row) {
     if (row < 0 || row >= static_cast<int>(rows_.size())) return;
     const auto chosen = rows_[static_cast<std::size_t>(row)];
-    rows_.clear();
-    completer_->popup()->hide();
-    clear();
+    close();
     QMetaObject::invokeMethod(
-        this,
+        frameView,
         [chosen] {
             if (chosen.Box > 0) return frameView->ShowBox(chosen.Box);
             frameView->FocusWorksheet(activeDocument);
-            Dispatch([&] {
-                GiveUp();
-                if (activeDocument > 0)
-                    RunBoxCommand(DocumentWindow(activeDocument), chosen.Control);
-            });
+            if (activeDocument == 0) return;
+            Dispatch([&] { ChooseQuick(chosen, DocumentWindow(activeDocument)); });
         },
         Qt::QueuedConnection);
+}
+
+/// The keys that move in the list come from the line above it.
+bool QuickPopup::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::KeyPress) return QFrame::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    const int last = list_->count() - 1;
+    const int page = RowsShown - 1;
+    const auto go = [&](int row) { list_->setCurrentRow(qBound(0, row, last)); };
+    switch (key) {
+        case Qt::Key_Down: return go(list_->currentRow() + 1), true;
+        case Qt::Key_Up: return go(list_->currentRow() - 1), true;
+        case Qt::Key_PageDown: return go(list_->currentRow() + page), true;
+        case Qt::Key_PageUp: return go(list_->currentRow() - page), true;
+        case Qt::Key_Return:
+        case Qt::Key_Enter: return Choose(list_->currentRow()), true;
+        case Qt::Key_Escape: return close(), true;
+        default: return QFrame::eventFilter(watched, event);
+    }
+}
+
+QuickField::QuickField(QWidget* parent, QuickPopup* popup) : QLineEdit(parent) {
+    setObjectName("quick");
+    setAccessibleName("Find a command, an option or a box");
+    ShowHint(this, "Find a command or a box");
+    setToolTip(
+        "Runs a command, picks an option, shows a box (Ctrl+K at the mouse, Ctrl+F for boxes)");
+    connect(this, &QLineEdit::textEdited, this, [this, popup](const QString& text) {
+        clear();
+        constexpr int least = 380;
+        popup->Open(mapToGlobal(QPoint(-4, -4)), qMax(width(), least), text, false);
+    });
 }
 
 }  // namespace quorvane

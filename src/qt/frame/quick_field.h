@@ -1,29 +1,41 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <QFrame>
 #include <QLineEdit>
 #include <vector>
 
 #include "workbench/quick_find.h"
 
-class QCompleter;
-class QStringListModel;
+class QListWidget;
 
 namespace quorvane {
 
-/// The field "quick" on the bar: it lists the commands and boxes that fit what is typed, and runs
-/// or shows the one that is chosen.
-class QuickField : public QLineEdit {
+/// The small window in which something is looked for: a line to type into, and what fits below it.
+/// Enter or a click chooses, Escape leaves.
+class QuickPopup : public QFrame {
 public:
-    explicit QuickField(QWidget* parent);
+    explicit QuickPopup(QWidget* frame);
+    /// Opens at this place of the screen, with this text in it.
+    void Open(QPoint at, int width, const QString& text, bool boxesOnly);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Find(const QString& text);
+    void Find();
     void Choose(int row);
 
+    QLineEdit* text_;
+    QListWidget* list_;
     std::vector<QuickRow> rows_;
-    QStringListModel* list_;
-    QCompleter* completer_;
+    bool boxesOnly_ = false;
+};
+
+/// The field "quick" on the bar: what is typed into it opens the pop-up over it.
+class QuickField : public QLineEdit {
+public:
+    QuickField(QWidget* parent, QuickPopup* popup);
 };
 
 }  // namespace quorvane

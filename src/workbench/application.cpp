@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "shell/application.h"
+#include "workbench/application.h"
 
 #include "catalogue/icon_table.h"
 #include "commands/command_browser_door.h"
@@ -86,6 +86,8 @@ void ResetApplication() {
     lastRunEnd = RunEnd::None;
     ResetDocumentFile();
     icons = {};
+    pickedBeforehand = nullptr;
+    typeBeforehand = nullptr;
     ResetMFileIndex();
     OpenCommandBrowser = ShowCommandBrowser;
     ResetLink();
