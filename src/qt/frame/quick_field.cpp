@@ -60,10 +60,10 @@ QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
 
 void QuickPopup::Open(QPoint at, int width, const QString& text, bool boxesOnly) {
     boxesOnly_ = boxesOnly;
+    setFixedWidth(width);
     ShowHint(text_, boxesOnly ? "Find a box" : "Find a command, an option or a box");
     text_->setText(text);
     Find();
-    resize(width, sizeHint().height());
     const auto room = screen()->availableGeometry();
     move(qBound(room.left(), at.x(), room.right() - this->width()),
          qBound(room.top(), at.y(), room.bottom() - height()));
