@@ -16,7 +16,7 @@
 #include "generator/front.h"
 #include "memory_count.h"
 #include "platform/numbers.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 #include "support/scripted_desktop.h"
 #include "workbench/after_event.h"
 #include "workbench/history.h"

@@ -11,7 +11,7 @@
 #include "generator/emission_chain.h"
 #include "generator/front.h"
 #include "platform/numbers.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 
 namespace quorvane::bench {
 

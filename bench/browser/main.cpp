@@ -19,7 +19,7 @@
 #include "qt/desktop/qt_desktop.h"
 #include "qt/dialogs/form_view.h"
 #include "qt/frame/frame_view.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 
 namespace {
 

@@ -11,7 +11,7 @@
 #include "matlab_link/link.h"
 #include "qt/desktop/qt_desktop.h"
 #include "qt/frame/frame_view.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 
 /// What the link to a living Octave costs: each figure with its target. The argument is the path of
 /// octave-cli.

@@ -25,7 +25,7 @@
 #include "qt/desktop/qt_desktop.h"
 #include "qt/frame/frame_view.h"
 #include "qt/sheet/worksheet_view.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 #include "shell/start_up.h"
 
 /// What a large worksheet costs on the screen: each figure with its target. A time is that of the

@@ -146,6 +146,13 @@ const BoxCommand* FindBoxCommand(std::string_view control) {
     return FindRow([&](const BoxCommand& row) { return MakesBox(row) && row.Control == control; });
 }
 
+std::string PlainCaption(std::string_view caption) {
+    std::string plain(caption);
+    std::erase(plain, '&');
+    while (plain.ends_with('.') || plain.ends_with(' ')) plain.pop_back();
+    return plain;
+}
+
 std::string_view ToolboxCommand(std::string_view key) {
     if (key.empty()) return "";
     if (key == "Arrow") return "mnuArrow";

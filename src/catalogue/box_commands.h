@@ -3,6 +3,7 @@
 
 #include <array>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace quorvane {
@@ -50,6 +51,9 @@ inline bool MakesBox(const BoxCommand& row) { return row.Entries != NoBox; }
 
 /// The command of a menu entry that makes a box, nullptr for any other name.
 const BoxCommand* FindBoxCommand(std::string_view control);
+
+/// A menu's caption without the mark of its letter and the dots that announce a dialog.
+std::string PlainCaption(std::string_view caption);
 
 /// The menu entry that a key of the toolbox stands for, "" for a key that is none.
 std::string_view ToolboxCommand(std::string_view key);

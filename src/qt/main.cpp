@@ -11,7 +11,7 @@
 #include "qt/desktop/recovery_watch.h"
 #include "qt/frame/frame_view.h"
 #include "quorvane/version.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 #include "shell/start_up.h"
 #include "workbench/recovery.h"
 #include "workbench/recovery_offer.h"

@@ -152,6 +152,28 @@ void RunMenuCommand(const DocumentMenuRow& row, Worksheet& sheet) {
     }
 }
 
+std::vector<QuickRow> MenuEntries() {
+    std::vector<QuickRow> entries;
+    std::string menu;
+    for (const auto& row : documentMenu) {
+        if (row.Depth == 0) menu = PlainCaption(row.Caption);
+        // The recent files have no captions of their own.
+        if (!row.Command || row.Index >= 0) continue;
+        entries.push_back(
+            {.Text = PlainCaption(row.Caption), .Where = menu, .Control = row.Control});
+    }
+    return entries;
+}
+
+bool RunMenuEntry(std::string_view control, Worksheet& sheet) {
+    for (const auto& row : documentMenu) {
+        if (row.Control != control || !row.Command) continue;
+        RunMenuCommand(row, sheet);
+        return true;
+    }
+    return false;
+}
+
 const MenuItem* MenuRecord(const Worksheet& sheet, std::string_view control, int index) {
     if (control == "mnuFileArray") return &sheet.mnuFileArray[index];
     if (control == "mnuMultipleArrows") return &sheet.mnuMultipleArrows;

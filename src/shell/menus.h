@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "diagram/worksheet.h"
+#include "workbench/quick_find.h"
 
 namespace quorvane {
 
@@ -32,6 +33,10 @@ extern const std::vector<FrameMenuRow> frameMenu;
 bool HasCommand(const DocumentMenuRow& row);
 /// Runs the entry's handler, or without one the box command of its control.
 void RunMenuCommand(const DocumentMenuRow& row, Worksheet& sheet);
+
+/// The entries with commands of their own, as the field "quick" finds them, and the run of one.
+std::vector<QuickRow> MenuEntries();
+bool RunMenuEntry(std::string_view control, Worksheet& sheet);
 
 /// The record that holds an entry's caption, check mark and visibility; nullptr when they never
 /// change.

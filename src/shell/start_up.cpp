@@ -10,7 +10,7 @@
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
 #include "quorvane/version.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 #include "toolbox/toolbox.h"
 
 namespace quorvane {

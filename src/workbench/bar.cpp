@@ -8,6 +8,8 @@
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "workbench/history.h"
+#include "workbench/live_script.h"
+#include "workbench/recovery.h"
 
 namespace quorvane {
 
@@ -35,13 +37,19 @@ std::string Selected() {
     return NumberText(count) + (count == 1 ? " box selected" : " boxes selected");
 }
 
+std::string Found(int document) {
+    const auto count = std::ssize(ScriptOf(document).Findings);
+    if (count == 0) return "";
+    return NumberText(count) + (count == 1 ? " finding" : " findings");
+}
+
 }  // namespace
 
 void Say(const std::string& text) {
     notice = {text, desktop->Milliseconds(), HistoryChanges(), EditMode};
 }
 
-std::string BarState() {
+std::string BarState(int document) {
     if (!frmTextResults.lblState.Caption.empty()) return frmTextResults.lblState.Caption;
     if (Stands(notice)) return notice.Text;
     switch (EditMode) {
@@ -50,8 +58,12 @@ std::string BarState() {
         case 4: return "arrow from " + BoxName(ArrowSource) + ": click its target";
         case 5: return "move: click where the selection goes";
         case 6: return "copy: click a box, or where the selection goes";
-        default: return Selected();
+        default: break;
     }
+    for (const auto& text : {SaveProblem(), RecoveryProblem(), Selected(), Found(document)}) {
+        if (!text.empty()) return text;
+    }
+    return "";
 }
 
 void ChangeBox_Key(Worksheet& sheet, int number) {

@@ -13,8 +13,9 @@ namespace quorvane {
 /// mode, or for some seconds.
 void Say(const std::string& text);
 
-/// The state in words: what was said, what is pending, what is selected; "" for nothing.
-std::string BarState();
+/// The state in words: what was said, what is pending, what could not be saved, what is selected,
+/// or how many findings this document has, 0 for none; "" for nothing.
+std::string BarState(int document);
 
 /// Opens the dialog of a box for a change, and says so where it has none. What is pending is given
 /// up first.

@@ -10,14 +10,15 @@
 #include "commands/option_list_dialog.h"
 #include "commands/run_command.h"
 #include "diagram/box_table.h"
-#include "files/document_file.h"
 #include "diagram/preferences.h"
+#include "files/document_file.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
-#include "shell/menus.h"
 #include "workbench/history.h"
 
 namespace quorvane {
+
+QuickMenus quickMenus;
 
 namespace {
 
@@ -86,14 +87,6 @@ void Add(Hits& hits, const Search& search, const std::string& key, QuickRow row)
     if (const auto rank = Rank(search, row.Text, key)) hits.push_back({*rank, std::move(row)});
 }
 
-/// A menu's caption without the mark of its letter and the dots that announce a dialog.
-std::string PlainCaption(std::string_view caption) {
-    std::string plain(caption);
-    std::erase(plain, '&');
-    while (!plain.empty() && (plain.back() == '.' || plain.back() == ' ')) plain.pop_back();
-    return plain;
-}
-
 void AddCommands(Hits& hits, const Search& search) {
     std::string menu = "Functions";
     for (const auto& row : boxCommands) {
@@ -148,14 +141,7 @@ void AddGraphs(Hits& hits, const Search& search) {
 }
 
 void AddMenus(Hits& hits, const Search& search) {
-    std::string menu;
-    for (const auto& row : documentMenu) {
-        if (row.Depth == 0) menu = PlainCaption(row.Caption);
-        // The recent files have no captions of their own.
-        if (!row.Command || row.Index >= 0) continue;
-        Add(hits, search, "",
-            {.Text = PlainCaption(row.Caption), .Where = menu, .Control = row.Control});
-    }
+    for (auto& row : quickMenus.Entries()) Add(hits, search, "", std::move(row));
 }
 
 void AddBoxes(Hits& hits, const Search& search) {
@@ -214,9 +200,7 @@ std::vector<QuickRow> FindQuick(std::string_view text, bool boxesOnly) {
 void ChooseQuick(const QuickRow& row, Worksheet& sheet) {
     if (!row.File.empty()) return LoadDocumentFile(row.File);
     if (row.Box > 0) return;
-    for (const auto& entry : documentMenu) {
-        if (entry.Control == row.Control && entry.Command) return RunMenuCommand(entry, sheet);
-    }
+    if (quickMenus.Run(row.Control, sheet)) return;
     GiveUp();
     if (row.List) pickedBeforehand = &row.List->Options[static_cast<std::size_t>(row.Option)];
     if (row.Graph) typeBeforehand = row.Graph;

@@ -25,6 +25,15 @@ struct QuickRow {
     std::string File = "";  ///< An example
 };
 
+/// The menus that FindQuick looks through, besides the commands that make boxes. They put
+/// themselves in here when the program starts.
+struct QuickMenus {
+    std::vector<QuickRow> (*Entries)() = [] { return std::vector<QuickRow>(); };
+    /// Runs an entry's command; false when it is none of these.
+    bool (*Run)(std::string_view control, Worksheet& sheet) = [](auto, auto&) { return false; };
+};
+extern QuickMenus quickMenus;
+
 /// What fits a text, best first: commands, options of the list dialogs, graph types, menu entries,
 /// boxes, examples. A row fits when each word of the text begins one of its words, or when the text
 /// is made of first letters of its words; the case doesn't count. With `boxesOnly` only boxes are

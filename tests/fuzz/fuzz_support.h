@@ -6,7 +6,7 @@
 #include <string>
 
 #include "files/work_folder.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 #include "support/scripted_desktop.h"
 
 namespace quorvane::testing {

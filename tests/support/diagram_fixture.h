@@ -9,7 +9,7 @@
 #include "diagram/box_table.h"
 #include "diagram/worksheet.h"
 #include "files/document_file.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 #include "support/scripted_desktop.h"
 #include "support/table_file.h"
 

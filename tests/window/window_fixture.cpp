@@ -4,7 +4,7 @@
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/sheet/worksheet_view.h"
-#include "workbench/application.h"
+#include "shell/application.h"
 #include "shell/menus.h"
 #include "shell/start_up.h"
 
@@ -232,6 +232,7 @@ void WindowTest::Type(int key, Qt::KeyboardModifiers modifiers) {
         if (!QTest::qWaitForWindowActive(frame_.get())) Fail("The frame doesn't take the keys");
     }
     auto* target = QApplication::activePopupWidget();
+    if (target && target->focusWidget()) target = target->focusWidget();
     if (auto* dialog = QApplication::activeModalWidget()) target = dialog->focusWidget();
     if (!target) target = QApplication::focusWidget();
     if (!target) target = frame_.get();

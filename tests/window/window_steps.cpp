@@ -182,8 +182,9 @@ Words WindowTest::MouseAndKeys() {
                  ->setText(ToScreen(a.Text).section(' ', 1));
          })},
         {"type", Step([](A a) {
-             const auto* dialog = QApplication::activeModalWidget();
-             QTest::keyClicks(dialog ? dialog->focusWidget() : QApplication::focusWidget(),
+             const auto* window = QApplication::activePopupWidget();
+             if (!window) window = QApplication::activeModalWidget();
+             QTest::keyClicks(window ? window->focusWidget() : QApplication::focusWidget(),
                               ToScreen(a.Text.substr(1)));
          })},
         {"commit", Step([=](A a) {

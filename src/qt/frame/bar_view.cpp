@@ -16,6 +16,7 @@
 #include "qt/desktop/svg_icon.h"
 #include "qt/frame/frame_view.h"
 #include "qt/frame/quick_field.h"
+#include "qt/sheet/sheet_marks.h"
 #include "qt/sheet/worksheet_view.h"
 #include "shell/frame.h"
 #include "workbench/bar.h"
@@ -253,7 +254,7 @@ void BarView::Refresh() {
 }
 
 void BarView::ShowState() {
-    const auto text = ToScreen(BarState());
+    const auto text = ToScreen(BarState(showsFindings ? activeDocument : 0));
     if (text_ != text) {
         text_ = text;
         state_->setAccessibleName(text);

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: MIT
-#include "workbench/application.h"
+#include "shell/application.h"
 
 #include "catalogue/icon_table.h"
 #include "commands/command_browser_door.h"
@@ -29,6 +29,7 @@
 #include "platform/file_table.h"
 #include "shell/about.h"
 #include "shell/help.h"
+#include "shell/menus.h"
 #include "shell/start_up.h"
 #include "shell/tour.h"
 #include "toolbox/toolbox.h"
@@ -86,6 +87,7 @@ void ResetApplication() {
     lastRunEnd = RunEnd::None;
     ResetDocumentFile();
     icons = {};
+    quickMenus = {MenuEntries, RunMenuEntry};
     pickedBeforehand = nullptr;
     typeBeforehand = nullptr;
     ResetMFileIndex();
