@@ -84,6 +84,8 @@ protected:
              })},
             {"refresh", Step([](A) { RefreshRecentFileMenus(); })},
             {"recent", Seen([this](A) { return Recent(); })},
+            {"offer", Step([](A a) { frmMDI.mnuFileArray[a[0]] = {a.Text, false, a[1] != 0}; })},
+            {"entries", Seen([](A a) { return Entries(Sheet(a[0]).mnuFileArray); })},
             {"known", Seen([](A a) { return IsRecentFile(a.Text); })},
         });
     }
@@ -144,18 +146,5 @@ private:
 };
 
 TEST_F(DocumentSteps, Table) { PlayTable("files/documents.tsv"); }
-
-TEST_F(DocumentSteps, ANewDocumentCopiesTheFramesMenus) {
-    frmMDI.mnuOptionsToolbox.Checked = true;
-    frmMDI.mnuOptionsCurrentToolbox.Caption = "Current Toolbox: my.tlb";
-    frmMDI.mnuFileArray[2] = {"two.qvm", false, true};
-    frmMDI.mnuFileArray[3].Caption = "hidden.qvm";
-    NewDocument();
-    const auto& window = *Documents[2];
-    EXPECT_TRUE(window.mnuOptionsToolbox.Checked);
-    EXPECT_EQ(window.mnuOptionsCurrentToolbox.Caption, "Current Toolbox: my.tlb");
-    EXPECT_EQ(Entries(window.mnuFileArray), ". . two.qvm . .");
-    EXPECT_EQ(window.mnuFileArray[3].Caption, "");
-}
 
 }  // namespace quorvane::testing

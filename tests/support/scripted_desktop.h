@@ -28,8 +28,6 @@ struct ScriptedDesktop : QuietDesktop {
     std::deque<std::int32_t> Colors;  ///< Chosen colours; cancelled when they run out
     std::vector<std::int32_t> ColorStarts;
     std::vector<std::string> MenusPopped;  ///< Menu, "|", document
-    std::vector<int> Arrangements;
-    std::vector<std::string> Clipboard;  ///< Every text put there
     bool Ended = false;
     std::deque<int> Seconds;  ///< What the clock reads; 0 when they run out
     std::function<void()> AtPaint = [] {};
@@ -74,8 +72,6 @@ struct ScriptedDesktop : QuietDesktop {
     void PopupMenu(std::string_view menu, int document) override {
         MenusPopped.push_back(std::string(menu) + "|" + std::to_string(document));
     }
-    void ArrangeWindows(int how) override { Arrangements.push_back(how); }
-    void SetClipboardText(const std::string& text) override { Clipboard.push_back(text); }
     int ClockSeconds() override { return Seconds.empty() ? 0 : Take(Seconds); }
     void PaintNow() override { AtPaint(); }
     void Help(const std::string& file, int command) override {

@@ -49,6 +49,8 @@ public:
             {"shpCopy", OfSheet(&Worksheet::shpCopy)},
             {"HoldsArrow", OfSheet(&Worksheet::pnlArrow, &ArrowPanel::HoldsArrow)},
             {"txtEvent", Global(frmMDI.txtEvent)},
+            {"frmMDI.Toolbox", Global(frmMDI.mnuOptionsToolbox.Checked)},
+            {"frmMDI.CurrentToolbox", Global(frmMDI.mnuOptionsCurrentToolbox.Caption)},
             {"toolbox", Seen([](A) -> std::string {
                  if (!frmPictures.Form.Loaded) return "gone";
                  return frmPictures.Form.Visible ? "shown" : "loaded";

@@ -65,10 +65,7 @@ private:
             {"Width", Global(frmPictures.Width)},
             {"Height", Global(frmPictures.Height)},
             {"ButtonHeight", Seen([](A a) { return frmPictures.cmd[a[0]].Place.Height; })},
-            {"txtEvent", Global(frmMDI.txtEvent)},
-            {"BoxType", Seen([](A a) { return Boxes[a[0]].BoxType; })},
             {"Tag", OfSheet(&Worksheet::Tag)},
-            {"FrameToolbox", Global(frmMDI.mnuOptionsCurrentToolbox.Caption)},
         };
     }
 
