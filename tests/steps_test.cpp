@@ -277,9 +277,35 @@ private:
             {"Kept", Global(screen.Kept)},
             {"frmTextResults", Global(frmTextResults.Form.Visible)},
             {"frmTextResults_cmdOK", Step([](A) { frmTextResults_cmdOK_Click(); })},
+            {"linked", Seen([this](A a) { return Linked(a); })},
+            {"link", Seen([](A) {
+                 const auto& sender = frmTextResults.Sender;
+                 const auto& receiver = frmTextResults.Receiver;
+                 return sender.Text + receiver.Text + Show(sender.LinkMode + receiver.LinkMode) +
+                        " " + sender.LinkTopic + "|" + sender.LinkItem + " " + receiver.LinkTopic +
+                        "|" + receiver.LinkItem;
+             })},
             {"refuse", Step([this](A a) { screen.LinkFailures = {a[0]}; })},
             {"log", Global(frmTextResults.txt.Text)},
         };
+    }
+
+    /// Sends two boxes over a link whose openings fail so, two for a box, to a user who answers so
+    /// to the offer to start MATLAB: how often it starts, the last message, what goes to it, and
+    /// the log.
+    std::string Linked(A a) {
+        Restart();
+        DrawBox("Constant Input~3~~2");
+        DrawBox("Screen Output~~1");
+        frmTextResults.txt.Text = "before|";
+        screen.Reply = "ans|";
+        screen.LinkFailures.assign(a.Given.begin(), a.Given.end());
+        for (const char answer : a.Text) {
+            screen.MessageAnswers.push_back(answer == 'Y' ? Answer::Yes : Answer::No);
+        }
+        CompileDocument(0, "1");
+        return Show(screen.MatlabStarts) + " " + Show(screen.Messages.back()) + "|" +
+               Replaced(Taken(screen.Sent) + "|" + frmTextResults.txt.Text, "\r\n", "\n");
     }
 
     static Words History() {

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstdint>
 #include <iostream>
 #include <string>
 
 #include "files/work_folder.h"
 #include "shell/application.h"
 #include "support/scripted_desktop.h"
+#include "support/table_file.h"
 
 namespace quorvane::testing {
 
@@ -15,13 +15,6 @@ inline void Check(bool holds, const std::string& what) {
     if (holds) return;
     std::cerr << "FINDING: " << what << std::endl;
     std::abort();
-}
-
-/// FNV-1a. The choices of a run hang on it, so that no byte of the input is spent on them.
-inline std::uint32_t HashOf(std::string_view bytes) {
-    std::uint32_t hash = 2166136261U;
-    for (const char byte : bytes) hash = (hash ^ static_cast<std::uint8_t>(byte)) * 16777619U;
-    return hash ^ (hash >> 15);
 }
 
 /// A folder for the files of all runs, in memory where there is such a thing: a save waits for the

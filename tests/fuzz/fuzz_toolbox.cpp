@@ -92,7 +92,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     return RunInput("t.tlb", data, size, [](const std::string& bytes, const std::string& path) {
         ScriptedDesktop screen;
         desktop = &screen;
-        const auto hash = HashOf(bytes);
+        const auto hash = DigestOf(bytes);
         ProgramDirectory = FuzzFolder().Path.string();
         NewDocument();
         frmPrefs.txtToolbox.Text = "t.tlb";

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
@@ -18,6 +19,13 @@ inline std::vector<std::string> Split(const std::string& line, char separator) {
         parts.push_back(line.substr(from, to - from));
     }
     return parts;
+}
+
+/// A number that any other text hardly has (FNV-1a).
+inline std::uint32_t DigestOf(std::string_view text) {
+    std::uint32_t digest = 2166136261U;
+    for (const char byte : text) digest = (digest ^ static_cast<std::uint8_t>(byte)) * 16777619U;
+    return digest ^ (digest >> 15);
 }
 
 /// The text with `what` as `by` at each place.

@@ -65,6 +65,40 @@ std::string Difference(const QList<QAction*>& entries, const Rows& rows, const R
     return "";
 }
 
+/// "|" is Tab, "<" Home, "#" Backspace, "!" a click on another option.
+void TypeKeys(QDialog& dialog, QWidget* control, const QString& keys) {
+    const std::map<QChar, Qt::Key> named = {
+        {'|', Qt::Key_Tab}, {'<', Qt::Key_Home}, {'#', Qt::Key_Backspace}};
+    for (const auto key : keys) {
+        if (key == '!') {
+            Play("opn(1)")(dialog);
+        } else if (named.contains(key)) {
+            QTest::keyClick(control, named.at(key));
+        } else {
+            QTest::keyClicks(control, QString(key));
+        }
+    }
+}
+
+QString TypeInto(QDialog& dialog, const QString& field, QString keys) {
+    dialog.activateWindow();  // Off-screen it doesn't come to the front by itself.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return dialog.isActiveWindow(); }));
+    auto* control = dialog.findChild<QWidget*>(field);
+    if (dialog.focusWidget() != control) control->setFocus(Qt::TabFocusReason);
+    TypeKeys(dialog, control, keys);
+    const auto typed = TextOf(control);
+    if (auto* line = qobject_cast<QLineEdit*>(control); line && keys.size() < 9) {
+        QApplication::clipboard()->setText(keys.remove(QRegularExpression("[|<#!]")));
+        line->setFocus();
+        line->selectAll();
+        line->paste();
+        line->clearFocus();
+        EXPECT_EQ(line->text(), typed) << "pasted";
+    }
+    dialog.done(QDialog::Accepted);
+    return typed;
+}
+
 void Click(QWidget* widget, const QString& how) {
     if (how == "double") {
         QTest::mouseDClick(widget, Qt::LeftButton);
@@ -187,6 +221,17 @@ Words WindowTest::MouseAndKeys() {
              QTest::keyClicks(window ? window->focusWidget() : QApplication::focusWidget(),
                               ToScreen(a.Text.substr(1)));
          })},
+        // What stands in a field of a command's dialog after these keys, and after a paste of them.
+        {"typed", Seen([this](A a) {
+             auto keys = ToScreen(a.Text);
+             const auto command = keys.section(' ', 0, 0), field = keys.section(' ', 1, 1);
+             keys = keys.section(' ', 2);
+             QString text;
+             Answers = {[&](QDialog& dialog) { text = TypeInto(dialog, field, keys); }};
+             Choose(command);
+             EditMode = 1;
+             return ToCore(text);
+         })},
         {"commit", Step([=](A a) {
              QInputMethodEvent event("", {});
              event.setCommitString(ToScreen(a.Text));
@@ -230,10 +275,18 @@ Words WindowTest::Looks() {
           {}}},
         {"value",
          {{},
-          [this](A a) { return Show(Find<QAbstractSlider>(a)->value()); },
+          [this](A a) { return Show(Find(a)->property("value").toInt()); },
           [this](A a, const std::string& text) {
               Find<QAbstractSlider>(a)->setValue(std::stoi(text));
           }}},
+        {"items", Seen([this](A a) {
+             const auto* model = Find<QAbstractItemView>(a)->model();
+             QStringList items;
+             for (int i = 0; i < model->rowCount(); ++i) {
+                 items += model->index(i, 0).data().toString().section('/', -1);
+             }
+             return ToCore(items.join(", "));
+         })},
         {"maximum", Seen([this](A a) { return Find<QAbstractSlider>(a)->maximum(); })},
         {"colored", Seen([this](A a) {
              const auto picture = Screen(Surface(a[3]));
