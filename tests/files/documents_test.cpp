@@ -84,7 +84,9 @@ protected:
              })},
             {"refresh", Step([](A) { RefreshRecentFileMenus(); })},
             {"recent", Seen([this](A) { return Recent(); })},
-            {"offer", Step([](A a) { frmMDI.mnuFileArray[a[0]] = {a.Text, false, a[1] != 0}; })},
+            {"offer", Step([](A a) {
+                 frmMDI.mnuFileArray[a[0]] = {a.Text, false, a[1] != 0};
+             })},
             {"entries", Seen([](A a) { return Entries(Sheet(a[0]).mnuFileArray); })},
             {"known", Seen([](A a) { return IsRecentFile(a.Text); })},
         });

@@ -12,12 +12,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void Replace(std::string& text, const std::string& from, const std::string& to) {
-    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
-
 /// An engine whose clock only goes while nothing comes from it.
 struct EngineDesktop : ScriptedDesktop {
     std::deque<std::string> Says;  ///< What each script makes it say
@@ -38,7 +32,7 @@ struct EngineDesktop : ScriptedDesktop {
         const auto call = Split(bytes, '\'');
         if (call.size() < 4) {
             Trace.push_back(">" + bytes);
-            Replace(Trace.back(), token_, "TOKEN");
+            Trace.back() = Replaced(Trace.back(), token_, "TOKEN");
         } else {
             token_ = call[0].substr(4, call[0].size() - 8);
             File = call[1];
@@ -93,12 +87,12 @@ private:
     std::string Spoken(std::string text, int id) const {
         for (const std::string kind : {"b", "e", "u"}) {
             const auto mark = "\n\1" + token_ + kind + ":";
-            Replace(text, "{" + kind + "}", mark + std::to_string(id) + "\1");
-            Replace(text, "{-" + kind + "}", mark + std::to_string(id - 1) + "\1");
+            text = Replaced(text, "{" + kind + "}", mark + std::to_string(id) + "\1");
+            text = Replaced(text, "{-" + kind + "}", mark + std::to_string(id - 1) + "\1");
         }
-        Replace(text, "{f}", "\n\1" + token_ + "f:\1");
-        Replace(text, "{p}", "\1" + token_ + "p:\1");
-        Replace(text, "{file}", File);
+        text = Replaced(text, "{f}", "\n\1" + token_ + "f:\1");
+        text = Replaced(text, "{p}", "\1" + token_ + "p:\1");
+        text = Replaced(text, "{file}", File);
         for (auto at = text.find("{i "); at != std::string::npos; at = text.find("{i ")) {
             text.replace(text.find('}', at), 1, "\1");
             text.replace(at, 3, "\1" + token_ + "i:");
@@ -162,7 +156,7 @@ struct LinkTest : GeneratorTest {
 TEST_F(LinkTest, ConversationsCutAnywhere) {
     for (auto row : ReadTable("matlab_link/link.tsv")) {
         SCOPED_TRACE(row.back() + " " + row[0]);
-        for (const std::size_t column : {2, 4}) Replace(row[column], "{1}", "\1");
+        for (auto& cell : row) cell = Replaced(cell, "{1}", "\1");
         const auto size = Play(row, 0);
         for (std::size_t cut = 1; cut < size && !HasFailure(); ++cut) Play(row, cut);
     }
