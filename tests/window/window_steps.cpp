@@ -27,9 +27,11 @@ std::string NumbersOf(const QPoint& at) { return Show(Reals{double(at.x()), doub
 /// What a widget says.
 QString TextOf(const QWidget* widget) {
     if (!widget) return "-";
-    if (const auto* help = qobject_cast<const QTextEdit*>(widget)) return help->toPlainText();
-    const auto text = widget->property("text");
-    return (text.isValid() ? text : widget->property("currentText")).toString();
+    for (const char* name : {"plainText", "text", "currentText"}) {
+        const auto text = widget->property(name);
+        if (text.isValid()) return text.toString();
+    }
+    return "";
 }
 
 /// The entries of a menu bar from top to bottom, without those that list windows.
@@ -259,6 +261,16 @@ Words WindowTest::Looks() {
          Seen([this](A a) { return NumbersOf(Find(a)->pos() - Surface()->rect().center()); })},
         {"text", Seen([this](A a) { return ToCore(TextOf(Seek(ToScreen(a.Text), a[0]))); })},
         {"tip", Seen([this](A a) { return ToCore(Find(a)->toolTip()); })},
+        // What a screen reader is told of a row of a list.
+        {"reads", Seen([this](A a) {
+             auto* list = QAccessible::queryAccessibleInterface(Find(a))->tableInterface();
+             auto* cell = list->cellAt(a[0], 0);
+             const auto state = cell->state();
+             return ToCore(cell->text(QAccessible::Name)) + (state.selected ? " *" : "");
+         })},
+        {"role", Seen([this](A a) {
+             return static_cast<int>(QAccessible::queryAccessibleInterface(Find(a))->role());
+         })},
         {"cursor", Seen([this](A a) {
              for (const auto& [name, shape] : cursors) {
                  if (Find(a)->cursor().shape() == shape) return name;

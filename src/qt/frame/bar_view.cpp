@@ -186,7 +186,9 @@ void BarView::AddPanel(const QString& name, const QString& caption, const QStrin
     button->setFocusPolicy(Qt::TabFocus);
     button->setCheckable(true);
     button->setChecked(!desktop->ReadStore(StoreSection, ToCore(name)).empty());
-    button->setShortcut(QKeySequence(key));
+    // A key of the frame: it works while the bar is hidden, too.
+    connect(new QShortcut(QKeySequence(key), parentWidget()->window()), &QShortcut::activated,
+            button, &QToolButton::toggle);
     panel->setVisible(button->isChecked());
     connect(button, &QToolButton::toggled, this, [panel, name](bool shows) {
         Dispatch([&] {
