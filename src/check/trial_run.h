@@ -17,12 +17,12 @@ struct WaitingBox {
 
 /// Outcome of an unattended run.
 struct TrialEnd {
-    RunEnd End = RunEnd::None;         ///< None after a run-time error
-    std::string Script;                ///< As far as it came
-    LineBoxes BoxOfLine;               ///< The box that wrote each line of it
-    std::vector<std::string> Asked;    ///< What was told or asked on the way
-    int Error = 0;      ///< The run-time error that ended it, 0 for none
-    int Depth = 0;      ///< Blocks still open at the end; below 0 when too many were closed
+    RunEnd End = RunEnd::None;       ///< None after a run-time error
+    std::string Script;              ///< As far as it came
+    LineBoxes BoxOfLine;             ///< The box that wrote each line of it
+    std::vector<std::string> Asked;  ///< What was told or asked on the way
+    int Error = 0;                   ///< The run-time error that ended it, 0 for none
+    int Depth = 0;  ///< Blocks still open at the end; below 0 when too many were closed
     std::vector<WaitingBox> Waiting;  ///< The front when it asked what to do about a stall
     std::vector<bool> Written;        ///< By number: the box is done
 };

@@ -21,7 +21,8 @@ struct Run {
     int stallCount = 0;         ///< Failed visits since the last success after stallBox was chosen
     int boxesDone = 0;
     bool notesLines = false;  ///< With mode 1 boxOfLine is kept, too
-    LineBoxes boxOfLine;  ///< The box that wrote each line of scriptText, with mode 0 or where asked
+    LineBoxes
+        boxOfLine;  ///< The box that wrote each line of scriptText, with mode 0 or where asked
     std::ptrdiff_t linesEnded = 0;  ///< Line ends in the first bytesCounted bytes of scriptText
     std::size_t bytesCounted = 0;
     int plotPrefixSent = 0;  ///< 1 once the first plot has gone to MATLAB

@@ -67,7 +67,7 @@ private:
     TourView* tour_;
     QPoint turned_;                ///< Turns of the wheel that don't make a whole unit yet
     int zoomTurned_ = 0;           ///< The same with Ctrl, in the wheel's own units
-    int checked_ = -1;  ///< The step whose findings are marked; -1 without marks
+    int checked_ = -1;             ///< The step whose findings are marked; -1 without marks
     std::vector<BoxView*> boxes_;  ///< By box number; nullptr where there is none
 };
 
