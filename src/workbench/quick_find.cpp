@@ -116,9 +116,11 @@ void AddOptions(Hits& hits, const Search& search) {
             const auto& option = list.Options[static_cast<std::size_t>(i)];
             if (OptionName(list, option).empty()) continue;
             const std::string text = option.BoxText ? option.BoxText : "";
-            const std::string type(option.BoxType);
-            const auto cell = IconCell(type.empty() ? text : type);
-            Add(hits, search, type + " " + text,
+            std::string key(option.BoxType);
+            const auto cell = IconCell(key.empty() ? text : key);
+            key += ' ';
+            key += text;
+            Add(hits, search, key,
                 {.Text = std::string(option.Caption),
                  .Where = std::string(list.Caption),
                  .Picture = cell,
