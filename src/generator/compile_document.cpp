@@ -109,7 +109,10 @@ bool Succeed(Run& run, int slot, const Box& box) {
 /// Notes which box wrote the new lines of the script. The last one may still lack its line end.
 void NoteLines(Run& run, int box) {
     const auto& text = run.scriptText;
-    if (run.boxOfLine.empty()) run.linesEnded = run.bytesCounted = 0;
+    if (run.boxOfLine.empty()) {
+        run.linesEnded = 0;
+        run.bytesCounted = 0;
+    }
     const auto* fresh = text.data() + run.bytesCounted;
     run.linesEnded += std::count(fresh, text.data() + text.size(), '\n');
     run.bytesCounted = text.size();

@@ -6,6 +6,7 @@
 #include <QEventLoop>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QWidget>
 #include <algorithm>
 #include <csignal>
 
