@@ -387,7 +387,11 @@ Words WindowTest::Dialogs() {
              ProgramDirectory = CurrentDirectory();
              DriveRoots = {{'C', ProgramDirectory + "/"}};
          })},
-        {"wait", Step([](A) { QTest::qWait(600); })},
+        {"until", Step([this](A a) {
+             const auto name = ToScreen(a.Text).section(' ', 0, 0);
+             const auto text = ToScreen(a.Text).section(' ', 1);
+             EXPECT_TRUE(QTest::qWaitFor([&] { return TextOf(Seek(name)).startsWith(text); }));
+         })},
         {"go", Step([this](A a) {
              auto* list = Find<QListWidget>({{}, "Dir1"});
              const auto* item = list->findItems(ToScreen(a.Text), Qt::MatchExactly).at(0);
