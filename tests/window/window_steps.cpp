@@ -387,6 +387,7 @@ Words WindowTest::Dialogs() {
              ProgramDirectory = CurrentDirectory();
              DriveRoots = {{'C', ProgramDirectory + "/"}};
          })},
+        {"wait", Step([](A) { QTest::qWait(600); })},
         {"until", Step([this](A a) {
              const auto name = ToScreen(a.Text).section(' ', 0, 0);
              const auto text = ToScreen(a.Text).section(' ', 1);
