@@ -4,11 +4,16 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QPainter>
+#include <QPushButton>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 #include <QVBoxLayout>
+#include <cmath>
 
 #include "commands/worksheet_events.h"
 #include "diagram/box_table.h"
+#include "matlab_link/run_report.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/icon_strip.h"
 #include "qt/desktop/screen_units.h"
@@ -23,6 +28,7 @@ namespace {
 
 constexpr int NumberRole = Qt::UserRole;
 constexpr int FaceSide = 24;
+constexpr int ValueColumn = 5;
 
 QStringList Cells(const OutlineRow& row) {
     QStringList cells;
@@ -30,6 +36,30 @@ QStringList Cells(const OutlineRow& row) {
         cells.append(ToScreen(*cell));
     }
     return cells;
+}
+
+/// A small curve of the points that are numbers; null without at least two.
+QPixmap Curve(const std::vector<double>& points, const QPalette& colors, qreal ratio) {
+    QPolygonF curve;
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (std::isfinite(points[i])) curve.append({static_cast<double>(i), points[i]});
+    }
+    if (curve.size() < 2) return {};
+    QPixmap drawn(QSize(FaceSide * 2, FaceSide) * ratio);
+    drawn.setDevicePixelRatio(ratio);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(colors.color(QPalette::Highlight), 1.5));
+    const auto extent = curve.boundingRect();
+    const QRectF room(2, 3, FaceSide * 2 - 4, FaceSide - 6);
+    for (auto& point : curve) {
+        const double across = (point.x() - extent.left()) / extent.width();
+        const double up = extent.height() > 0 ? (point.y() - extent.top()) / extent.height() : 0.5;
+        point = {room.left() + across * room.width(), room.bottom() - up * room.height()};
+    }
+    painter.drawPolyline(curve);
+    return drawn;
 }
 
 /// What a screen reader says of a row.
@@ -53,7 +83,7 @@ BoxesPanel::BoxesPanel(QWidget* parent) : QWidget(parent) {
     boxes_ = new QTreeWidget(this);
     boxes_->setObjectName("boxes");
     boxes_->setAccessibleName("Boxes");
-    boxes_->setHeaderLabels({"Box", "Type", "Text", "From", "To"});
+    boxes_->setHeaderLabels({"Box", "Type", "Text", "From", "To", "Last value"});
     boxes_->setAllColumnsShowFocus(true);
     boxes_->setIconSize(QSize(FaceSide, FaceSide));
     boxes_->header()->setSectionResizeMode(QHeaderView::Interactive);
@@ -62,9 +92,19 @@ BoxesPanel::BoxesPanel(QWidget* parent) : QWidget(parent) {
     boxes_->installEventFilter(this);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(4, 4, 4, 4);
-    rows->addWidget(filter_);
+    auto* head = new QHBoxLayout;
+    head->addWidget(filter_);
+    change_ = new QPushButton("Change", this);
+    change_->setObjectName("change");
+    change_->setToolTip("Opens the dialog that made the box (F2)");
+    change_->setEnabled(false);
+    head->addWidget(change_);
+    rows->addLayout(head);
     rows->addWidget(boxes_);
     connect(filter_, &QLineEdit::textChanged, this, &BoxesPanel::Refresh);
+    connect(change_, &QPushButton::clicked, this, [this] { TakeKey(Qt::Key_F2, {}); });
+    connect(boxes_, &QTreeWidget::currentItemChanged, this,
+            [this] { change_->setEnabled(Current() > 0); });
     connect(boxes_, &QTreeWidget::itemClicked, this, [this] {
         if (Current() > 0) frameView->ShowBox(Current());
     });
@@ -79,7 +119,7 @@ void BoxesPanel::Refresh() {
     if (!isVisible()) return;
     QString state = QString("%1 %2").arg(HistoryChanges()).arg(filter_->text());
     ForEachOpenDocument([&](const Worksheet& sheet, int) { state += ToScreen(sheet.Caption); });
-    if (listed_ == state) return;
+    if (listed_ == state) return ShowValues();
     listed_ = state;
     List();
 }
@@ -106,8 +146,24 @@ void BoxesPanel::List() {
         if (row.Box == current) boxes_->setCurrentItem(item);
     }
     boxes_->expandAll();
+    change_->setEnabled(Current() > 0);
+    ShowValues();
     if (!first) return;
     for (int i = 0; i < boxes_->columnCount(); ++i) boxes_->resizeColumnToContents(i);
+}
+
+/// What the last run left: a failure, or the value and its curve.
+void BoxesPanel::ShowValues() {
+    for (QTreeWidgetItemIterator at(boxes_); *at; ++at) {
+        const int number = (*at)->data(0, NumberRole).toInt();
+        if (number == 0) continue;
+        const auto& report = linkReport.Of[number];
+        const auto text = ToScreen(report.Message.empty() ? report.Value : report.Message);
+        if ((*at)->text(ValueColumn) == text.simplified()) continue;
+        (*at)->setText(ValueColumn, text.simplified());
+        (*at)->setToolTip(ValueColumn, text);
+        (*at)->setIcon(ValueColumn, Curve(report.Points, palette(), devicePixelRatioF()));
+    }
 }
 
 /// True for a key of the list.
@@ -146,6 +202,12 @@ bool BoxesPanel::eventFilter(QObject* watched, QEvent* event) {
     return TakeKey(key->key(), key->modifiers()) || QWidget::eventFilter(watched, event);
 }
 
-void BoxesPanel::showEvent(QShowEvent*) { Refresh(); }
+/// While it shows, the link asks for values.
+void BoxesPanel::showEvent(QShowEvent*) {
+    linkReport.wantsValues = true;
+    Refresh();
+}
+
+void BoxesPanel::hideEvent(QHideEvent*) { linkReport.wantsValues = false; }
 
 }  // namespace quorvane

@@ -4,6 +4,7 @@
 #include <QWidget>
 
 class QLineEdit;
+class QPushButton;
 class QTreeWidget;
 
 namespace quorvane {
@@ -20,13 +21,16 @@ public:
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void showEvent(QShowEvent* event) override;
+    void hideEvent(QHideEvent* event) override;
 
 private:
     void List();
+    void ShowValues();
     int Current() const;
     bool TakeKey(int key, Qt::KeyboardModifiers modifiers);
 
     QLineEdit* filter_;
+    QPushButton* change_;
     QTreeWidget* boxes_;
     QString listed_;  ///< What the list was made from
 };

@@ -41,13 +41,25 @@ QPixmap DrawFace(int cell, int side, bool focused, qreal ratio) {
     return face;
 }
 
-/// An exclamation mark on an orange disc in the upper right corner.
-void PaintFindingMark(QPainter& painter, int side) {
+constexpr QColor FindingColor(0xD9, 0x5B, 0x0E);
+constexpr QColor FailureColor(0xC6, 0x20, 0x2E);
+constexpr QColor RunningColor(0x2F, 0x94, 0x48);
+
+/// A frame round the box that MATLAB works at.
+void PaintRunning(QPainter& painter, int side) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(RunningColor, 3));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(1.5, 1.5, side - 3, side - 3), 4, 4);
+}
+
+/// An exclamation mark on a disc in the upper right corner.
+void PaintMark(QPainter& painter, int side, const QColor& color) {
     const double disc = qMax(8.0, side * 0.36);
     const QRectF place(side - disc, 0, disc, disc);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(Qt::white, 1));
-    painter.setBrush(QColor(0xD9, 0x5B, 0x0E));
+    painter.setBrush(color);
     painter.drawEllipse(place.adjusted(0.5, 0.5, -0.5, -0.5));
     const double x = place.center().x();
     painter.setPen(QPen(Qt::white, disc / 6, Qt::SolidLine, Qt::RoundCap));
@@ -109,18 +121,30 @@ void BoxView::Refresh(const BoxControl& control) {
     }
 }
 
-void BoxView::SetFinding(const QString& text) {
-    if (finding_ == text) return;
-    finding_ = text;
-    setToolTip(text);
-    setAccessibleDescription(text);
+void BoxView::SetMarks(const std::string& finding, const BoxReport& report) {
+    const bool same = finding_ == finding && report_.State == report.State &&
+                      report_.Message == report.Message && report_.Value == report.Value;
+    if (same) return;
+    finding_ = finding;
+    report_ = report;
+    QStringList lines;
+    for (const auto* text : {&report.Message, &finding, &report.Value}) {
+        if (!text->empty()) lines.append(ToScreen(*text));
+    }
+    setToolTip(lines.join('\n'));
+    setAccessibleDescription(lines.join(". "));
     update();
 }
 
 void BoxView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, Face(picture_, width(), hasFocus(), devicePixelRatioF()));
-    if (!finding_.isEmpty()) PaintFindingMark(painter, width());
+    if (report_.State == BoxRun::Running) PaintRunning(painter, width());
+    if (report_.State == BoxRun::Failed) {
+        PaintMark(painter, width(), FailureColor);
+    } else if (!finding_.empty()) {
+        PaintMark(painter, width(), FindingColor);
+    }
 }
 
 /// The middle button may be about to pan: its press counts when it is let go in place.

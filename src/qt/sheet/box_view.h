@@ -5,6 +5,7 @@
 #include <string>
 
 #include "diagram/worksheet.h"
+#include "matlab_link/run_report.h"
 
 namespace quorvane {
 
@@ -18,8 +19,9 @@ public:
     void Refresh(const BoxControl& control);
     int Document() const { return document_; }
     int Number() const { return number_; }
-    /// A mark at the corner that tells this; "" for none.
-    void SetFinding(const QString& text);
+    /// What the check finds at the box, "" for nothing, and what the last run left there. Either is
+    /// marked at the corner and told by the tool tip.
+    void SetMarks(const std::string& finding, const BoxReport& report);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -45,7 +47,8 @@ private:
     bool dragAutomatic_ = false;
     bool pressed_ = false;
     QPoint pressedAt_;
-    QString finding_;
+    std::string finding_;
+    BoxReport report_;
 };
 
 }  // namespace quorvane

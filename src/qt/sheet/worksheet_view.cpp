@@ -260,7 +260,7 @@ void WorksheetView::Refresh() {
     surface_->Refresh();
     RefreshBoxes();
     RefreshBubble();
-    RefreshFindings();
+    RefreshMarks();
     tour_->Refresh(Sheet().pnlTour);
 }
 
@@ -307,15 +307,19 @@ void WorksheetView::RefreshBoxes() {
     }
 }
 
-/// Marks the boxes with findings, as long as the panel that lists them is open. A press of the
-/// mouse puts that off.
-void WorksheetView::RefreshFindings() {
+/// Marks the boxes where the last run failed, and those with findings as long as the panel that
+/// lists them is open. A press of the mouse puts off the check.
+void WorksheetView::RefreshMarks() {
     const int wanted = showsFindings ? HistoryChanges() : -1;
-    if (checked_ == wanted || QGuiApplication::mouseButtons() != Qt::NoButton) return;
-    checked_ = wanted;
-    for (auto* view : boxes_) {
-        if (!view) continue;
-        view->SetFinding(showsFindings ? ToScreen(FindingsOfBox(view->Number())) : QString());
+    findings_.resize(boxes_.size());
+    if (checked_ != wanted && QGuiApplication::mouseButtons() == Qt::NoButton) {
+        checked_ = wanted;
+        for (std::size_t i = 1; i < findings_.size(); ++i) {
+            findings_[i] = showsFindings ? FindingsOfBox(static_cast<int>(i)) : "";
+        }
+    }
+    for (std::size_t i = 1; i < boxes_.size(); ++i) {
+        if (boxes_[i]) boxes_[i]->SetMarks(findings_[i], linkReport.Of[static_cast<int>(i)]);
     }
 }
 

@@ -53,7 +53,7 @@ private:
     void RefreshBars();
     void RefreshBoxes();
     void RefreshBubble();
-    void RefreshFindings();
+    void RefreshMarks();
 
     int document_;
     SheetScale scale_;
@@ -65,10 +65,11 @@ private:
     QWidget* corner_;
     QLabel* bubble_;
     TourView* tour_;
-    QPoint turned_;                ///< Turns of the wheel that don't make a whole unit yet
-    int zoomTurned_ = 0;           ///< The same with Ctrl, in the wheel's own units
-    int checked_ = -1;             ///< The step whose findings are marked; -1 without marks
-    std::vector<BoxView*> boxes_;  ///< By box number; nullptr where there is none
+    QPoint turned_;                      ///< Turns of the wheel that don't make a whole unit yet
+    int zoomTurned_ = 0;                 ///< The same with Ctrl, in the wheel's own units
+    int checked_ = -1;                   ///< The step whose findings are marked; -1 without marks
+    std::vector<std::string> findings_;  ///< By box number
+    std::vector<BoxView*> boxes_;        ///< By box number; nullptr where there is none
 };
 
 }  // namespace quorvane
