@@ -1,6 +1,7 @@
-% Asks the user by way of the link: prints a mark with the question, and waits for a line.
-function line = ASK (kind, question)
-  builtin ('fprintf', 1, '%s', [char(1) 'TOKEN' kind ':' question char(1)]);
+% Asks the user by way of the link: prints a mark with the question, and reads the answer.
+function line = TOKENask (kind, question)
+  mark = builtin ('sprintf', '\001TOKEN%s:%s\001', kind, question);
+  builtin ('fprintf', 1, '%s', mark);
   builtin ('fflush', 1);
-  line = builtin ('input', '', 's');
+  [kind, numbers, line] = TOKENnext ();
 end

@@ -2,7 +2,7 @@
 function answer = input (question, kind)
   if nargin == 0, question = ''; end
   while true
-    line = ASK ('i', question);
+    line = TOKENask ('i', question);
     if nargin > 1
       answer = line;
       return;

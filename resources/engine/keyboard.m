@@ -2,7 +2,7 @@
 % the script stands, until an empty line, "return" or "dbcont".
 function keyboard (varargin)
   while true
-    line = strtrim (ASK ('i', 'keyboard> '));
+    line = strtrim (TOKENask ('i', 'keyboard> '));
     if any (strcmp (line, {'', 'return', 'dbcont', 'dbquit'})), return; end
     try
       evalin ('caller', line);

@@ -3,6 +3,6 @@ function pause (seconds)
   if nargin > 0 && isnumeric (seconds) && isfinite (seconds)
     builtin ('pause', seconds);
   elseif nargin == 0 || isnumeric (seconds)
-    ASK ('p', '');
+    TOKENask ('p', '');
   end
 end

@@ -25,6 +25,8 @@ struct LinkDoor {
     std::function<std::string(bool come)> Finish = [](bool) { return ""; };
     /// The command "Start Matlab".
     std::function<void()> StartMatlab = [] {};
+    /// A run of so many boxes begins.
+    std::function<void(int boxes)> Begin = [](int) {};
 };
 extern LinkDoor matlabLink;
 

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: MIT
 #include "generator/send_to_matlab.h"
 
+#include <algorithm>
+
 #include "diagram/worksheet.h"
 #include "generator/compile_document.h"
 #include "generator/link_door.h"
 #include "platform/desktop.h"
+#include "platform/numbers.h"
 
 namespace quorvane {
 
@@ -62,6 +65,14 @@ void Request(LinkBox& receiver) {
     receiver.LinkMode = 0;
 }
 
+/// How many boxes of a worksheet a run would visit: a comment is never reached.
+int BoxesToRun(const Worksheet& sheet) {
+    const auto isRun = [document = TextToInt16(sheet.Tag)](const Box& box) {
+        return box.BoxDocument == document && box.BoxType != "Comment";
+    };
+    return static_cast<int>(std::count_if(Boxes.begin() + 1, Boxes.begin() + NextBox, isRun));
+}
+
 void GiveUp() {
     ClearMarks();
     Tell("DDE Error. Could not compile. Try compiling to the clipboard.", Icon::Information);
@@ -82,6 +93,7 @@ void mnuEXEMatlab_Click(Worksheet& sheet) {
     if (!frmTextResults.Form.Loaded) frmTextResults_Load();
     frmTextResults.Form.Visible = true;
     frmTextResults.Minimized = false;
+    matlabLink.Begin(BoxesToRun(sheet));
     CompileDocument(0, sheet.Tag);
     frmTextResults.txt.Text += matlabLink.Finish(lastRunEnd == RunEnd::Done);
 }

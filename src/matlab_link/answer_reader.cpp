@@ -2,6 +2,7 @@
 #include "matlab_link/answer_reader.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quorvane {
 
@@ -45,7 +46,7 @@ void BeginAnswer(AnswerReader& reader) {
     reader.Looked = reader.LeftOut = 0;
 }
 
-void EndAnswer(AnswerReader& reader) { reader.Received.resize(reader.Looked); }
+void LookAtAll(AnswerReader& reader) { reader.Looked = reader.Received.size(); }
 
 void LimitAnswer(AnswerReader& reader) {
     if (reader.Looked <= AnswerLimit) return;
@@ -56,9 +57,9 @@ void LimitAnswer(AnswerReader& reader) {
 }
 
 std::string AnswerOf(AnswerReader& reader) {
-    reader.Looked = reader.Received.size();
     LimitAnswer(reader);
-    auto answer = std::move(reader.Received);
+    auto answer = reader.Received.substr(0, reader.Looked);
+    reader.Received.erase(0, std::exchange(reader.Looked, 0));
     if (reader.LeftOut > 0) {
         answer += "\n... " + std::to_string(reader.LeftOut) + " bytes more\n";
     }

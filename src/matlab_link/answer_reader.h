@@ -12,12 +12,16 @@ constexpr std::size_t AnswerLimit = 8 << 20;
 /// What the engine tells the link in the middle of what a script prints: "\1", the token, a letter,
 /// ":", a text, "\1". A line end before it belongs to the mark, but not before a question.
 enum class MarkKind : char {
-    Begin = 'b',    ///< A script begins; the text is its number, as with the next two
-    End = 'e',      ///< It has come to its end
-    Unwound = 'u',  ///< It was left before it came to its end
-    Figures = 'f',  ///< The engine has drawn
-    Line = 'i',     ///< Asks for a line; the text is the question
-    Pause = 'p',    ///< Waits until the user is ready
+    Loops = 'l',      ///< The loop runs; the text is the number of the call
+    Functions = 'h',  ///< The engine doesn't have our functions
+    Begin = 'b',      ///< A script begins; the text is its number, as with the next one
+    End = 'e',        ///< It is over, whatever became of it
+    Fault = 'x',      ///< It has failed; the text is a line, ":" and the message
+    Value = 'v',      ///< The value of a box (run_report.h)
+    Unwound = 'u',    ///< The loop was left
+    Figures = 'f',    ///< The engine has drawn
+    Line = 'i',       ///< Asks for a line; the text is the question
+    Pause = 'p',      ///< Waits until the user is ready
 };
 struct Mark {
     MarkKind Kind;
@@ -38,11 +42,11 @@ std::optional<Mark> TakeMark(AnswerReader& reader);
 void InsertText(AnswerReader& reader, const std::string& text);
 /// Drops what came before Looked: it belongs to no script.
 void BeginAnswer(AnswerReader& reader);
-/// Drops what comes after Looked: the script has ended there.
-void EndAnswer(AnswerReader& reader);
+/// Counts all that came as part of the answer: no further mark is awaited.
+void LookAtAll(AnswerReader& reader);
 /// Cuts what is beyond the limit, as far as it was searched for marks.
 void LimitAnswer(AnswerReader& reader);
-/// The answer as the user sees it, with the count of what was left out.
+/// Takes out what came before Looked, as the user sees it, with the count of what was left out.
 std::string AnswerOf(AnswerReader& reader);
 
 }  // namespace quorvane

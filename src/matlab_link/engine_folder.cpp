@@ -3,9 +3,9 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cstdio>
 #include <random>
+#include <string_view>
 #include <system_error>
 
 #include "matlab_link/engine_functions.h"
@@ -19,19 +19,31 @@ namespace {
 
 constexpr int FileNotFound = 53;
 
-/// Which functions have the token in their names, and which are for Octave alone, since MATLAB has
-/// its own.
-constexpr std::array<std::string_view, 2> ours = {"run", "ask"};
+/// The functions that take the place of the engine's own; all others have the token in their names.
+/// One of them is for Octave alone, since MATLAB has it.
+constexpr std::array<std::string_view, 4> replacing = {"input", "keyboard", "pause",
+                                                       "system_dependent"};
 constexpr std::string_view octaveFunction = "system_dependent";
 
-bool IsOurs(std::string_view name) {
-    return std::find(ours.begin(), ours.end(), name) != ours.end();
+bool Replaces(std::string_view name) {
+    return std::find(replacing.begin(), replacing.end(), name) != replacing.end();
 }
 
-void Replace(std::string& text, std::string_view from, const std::string& to) {
-    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
+std::string WithToken(std::string text, const std::string& token) {
+    constexpr std::string_view mark = "TOKEN";
+    for (auto at = text.find(mark); at != std::string::npos;
+         at = text.find(mark, at + token.size())) {
+        text.replace(at, mark.size(), token);
     }
+    return text;
+}
+
+bool WriteFile(const fs::path& path, const std::string& text) {
+    auto* file = std::fopen(path.c_str(), "wb");
+    const bool isWritten = file && std::fwrite(text.data(), 1, text.size(), file) == text.size() &&
+                           std::fflush(file) == 0;
+    if (file) std::fclose(file);
+    return isWritten;
 }
 
 /// A new folder that only its owner can read and enter; a number makes its name unique.
@@ -64,34 +76,21 @@ void EngineFolder::RemoveAll::operator()(const fs::path* folder) const {
     delete folder;
 }
 
-void EngineFolder::Make(const std::string& token, bool forOctave) {
+std::string EngineDefinitions(const std::string& token) {
+    std::string text;
+    for (const auto& function : EngineFunctions()) text += WithToken(function.Text, token);
+    return text;
+}
+
+void EngineFolder::Make(const std::string& token) {
     folder_.reset(new fs::path(NewFolder()));
     for (const auto& function : EngineFunctions()) {
-        if (function.Name == octaveFunction && !forOctave) continue;
-        std::string text = function.Text;
-        Replace(text, "TOKEN", token);
-        Replace(text, "RUN", token + "run");
-        Replace(text, "ASK", token + "ask");
-        const std::string name = (IsOurs(function.Name) ? token : "") + function.Name;
-        std::string why;
-        if (Write(name, text, why).empty()) throw RuntimeError(FileNotFound);
+        if (function.Name == octaveFunction) continue;
+        const std::string name = (Replaces(function.Name) ? "" : token) + function.Name;
+        if (!WriteFile(*folder_ / (name + ".m"), WithToken(function.Text, token))) {
+            throw RuntimeError(FileNotFound);
+        }
     }
-}
-
-std::string EngineFolder::Write(const std::string& name, const std::string& text,
-                                std::string& why) const {
-    const auto path = (*folder_ / (name + ".m")).string();
-    auto* file = std::fopen(path.c_str(), "wb");
-    const bool isWritten = file && std::fwrite(text.data(), 1, text.size(), file) == text.size() &&
-                           std::fflush(file) == 0;
-    if (!isWritten) why = std::generic_category().message(errno);
-    if (file) std::fclose(file);
-    return isWritten ? path : "";
-}
-
-void EngineFolder::Remove(const std::string& file) {
-    std::error_code error;
-    fs::remove(file, error);
 }
 
 }  // namespace quorvane

@@ -10,18 +10,18 @@ namespace quorvane {
 /// A word that no script and no output contains by chance.
 std::string DrawToken();
 
-/// A temporary folder that only this user can enter. It is removed with its record, and holds what
-/// an engine has to find: our functions (resources/engine) and the script that it runs.
+/// Our functions (resources/engine) as one text that defines all of them; their names and marks are
+/// those of this token.
+std::string EngineDefinitions(const std::string& token);
+
+/// A temporary folder that only this user can enter. It is removed with its record, and holds our
+/// functions for an engine that only takes functions from files.
 class EngineFolder {
 public:
     /// Makes the folder with the functions, whose names and marks are those of this token. Error 53
     /// when there is no place for it.
-    void Make(const std::string& token, bool forOctave);
+    void Make(const std::string& token);
     std::string Path() const { return folder_ ? folder_->string() : ""; }
-    /// Writes an M-file and returns its path; "" when it can't be written whole, with the reason in
-    /// `why`.
-    std::string Write(const std::string& name, const std::string& text, std::string& why) const;
-    static void Remove(const std::string& file);
 
 private:
     struct RemoveAll {

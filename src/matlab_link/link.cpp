@@ -2,12 +2,16 @@
 #include "matlab_link/link.h"
 
 #include <algorithm>
+#include <set>
+#include <string_view>
 #include <utility>
 
 #include "diagram/box_table.h"
 #include "generator/send_to_matlab.h"
 #include "matlab_link/answer_reader.h"
 #include "matlab_link/engine_folder.h"
+#include "matlab_link/fault.h"
+#include "matlab_link/run_report.h"
 #include "matlab_link/script_blocks.h"
 #include "platform/desktop.h"
 #include "platform/paths.h"
@@ -24,35 +28,35 @@ constexpr std::int64_t QuietMilliseconds = 400;
 constexpr std::int64_t GoingMilliseconds = 3000;
 constexpr int BreakSeconds = 5;
 constexpr std::int16_t NoBox = 0;
-/// How the engine's message about a script that it can't parse begins; the line's number follows.
-constexpr const char* ParseError = "parse error near line ";
 
-/// The arguments of an engine, by the beginning of its file name.
+/// The arguments of an engine, by the beginning of its file name. They are plain words, so that
+/// they come through any command that starts the engine elsewhere.
 struct EngineRow {
     const char* Name;
     bool IsOctave;
     std::vector<std::string> Arguments;
 };
-constexpr const char* octaveSetUp =
+constexpr std::string_view octaveSetUp =
     "PS1('');PS2('');more off;warning('off','Octave:shadowed-function');"
-    "warning('off','backtrace');";
+    "warning('off','backtrace');\n";
 const EngineRow engineRows[] = {
     {"octave",
      true,
-     {"--no-gui", "--quiet", "--no-init-file", "--no-history", "--interactive", "--eval",
-      octaveSetUp, "--persist"}},
+     {"--no-gui", "--quiet", "--no-init-file", "--no-history", "--eval", "format", "--persist"}},
     {"", false, {"-nodesktop", "-nosplash"}},
 };
 
 /// The engine that was started last and what is known of it.
 struct Engine {
-    EngineFolder Folder;  ///< Holds our functions and the script that runs
+    EngineFolder Folder;  ///< Holds our functions, where the engine takes them from files alone
     std::string Token;    ///< Part of all our names and marks, drawn anew for each engine
     std::string Kept;     ///< The parts of a block that isn't closed yet
     LineBoxes KeptBoxes;
     std::string Answer;
-    int Script = 0;     ///< The number of the last script
-    bool Busy = false;  ///< A script runs
+    int Script = 0;      ///< The number of the last script
+    int Call = 0;        ///< The number of the last call of the loop
+    bool Loops = false;  ///< The loop runs and takes requests
+    bool Busy = false;   ///< The link waits for it
     bool HasFigures = false;
 };
 Engine engine;
@@ -60,12 +64,18 @@ Engine engine;
 /// A script that runs.
 struct Job {
     std::string Id;
+    std::string Script;
+    const LineBoxes* Boxes = nullptr;  ///< The box that wrote each line, none when empty
     AnswerReader Reader;
-    std::int64_t SentAt = 0;         ///< When the script, or the last line for it, was sent
+    std::int64_t SentAt = 0;         ///< When the script, or the last answer for it, was sent
     std::int64_t StoppedAt = Never;  ///< When the user broke it off
     std::int64_t LeftAt = Never;     ///< When it was left uninterrupted: the engine is ending
     int Breaks = 0;                  ///< How often the engine was interrupted
+    bool Sent = false;               ///< Before, the loop has to begin
+    bool Told = false;               ///< Its answer is complete
     bool Ended = false;
+    std::int16_t Failed = NoBox;  ///< The box at fault
+    bool Refused = false;         ///< It couldn't be parsed
 };
 
 /// Marks the engine as busy, for as long as this lives.
@@ -95,14 +105,65 @@ std::string Quoted(const std::string& text) {
     return quoted + "'";
 }
 
-/// Our functions are found again even after a script has removed their folder from the path.
-std::string AddFolder() { return "addpath(" + Quoted(engine.Folder.Path()) + ");"; }
+/// A request to the loop (resources/engine/next.m). The text ends in a line end of ours.
+void Request(char kind, const std::string& numbers, const std::string& text) {
+    const auto size = std::to_string(text.size() + 1);
+    desktop->WriteEngine(engine.Token + kind + " " + size + numbers + "\n" + text + "\n");
+}
 
-/// An interrupt while the engine waits for a line takes effect with the next line. When the first
-/// one doesn't help, the engine may be in its debugger.
+/// What makes our functions known. An engine without a folder takes them as one text.
+std::string Definitions() {
+    const auto folder = engine.Folder.Path();
+    return folder.empty() ? EngineDefinitions(engine.Token) : "addpath(" + Quoted(folder) + ");\n";
+}
+
+/// Has the loop tell that it runs, by a mark with the number of this call. At the engine's own
+/// prompt the line calls the loop; one that runs answers the line. An engine that doesn't know the
+/// loop yet asks for the definitions.
+void CallLoop() {
+    const auto call = engine.Token + "loop(" + std::to_string(++engine.Call) + ");";
+    const auto folder = engine.Folder.Path();
+    const auto size = std::to_string(octaveSetUp.size() + Definitions().size());
+    const auto fetch = "builtin('fprintf',1,'\\001" + engine.Token +
+                       "h:\\001');builtin('fflush',1);builtin('eval',builtin('fread',0," + size +
+                       ",'char=>char')');";
+    // The second line end is for Octave, which looks at the character after the line.
+    desktop->WriteEngine("\ntry," + call + "catch," +
+                         (folder.empty() ? fetch : Definitions() + call) + "end\n\n");
+}
+
+/// An interrupt while the engine waits for a line takes effect with the next line.
 void Interrupt(Job& job) {
+    ++job.Breaks;
     desktop->InterruptEngine();
-    desktop->WriteEngine(job.Breaks++ == 0 ? "\n" : "dbquit\n");
+    CallLoop();
+}
+
+/// The numbers of a script's boxes, each once, where their values are asked for.
+std::string WantedValues(const LineBoxes& lines) {
+    if (!linkReport.wantsValues) return "";
+    const std::set<std::int16_t> boxes(lines.begin(), lines.end());
+    std::string numbers;
+    for (const auto box : boxes) {
+        if (box != NoBox) numbers += " " + std::to_string(box);
+    }
+    return numbers;
+}
+
+/// A line that ends in nothing is evaluated at once; several have to be stored by the engine.
+void SendScript(Job& job) {
+    const auto end = job.Script.find_last_not_of("\r\n") + 1;
+    Request('r', " " + job.Id + WantedValues(*job.Boxes), job.Script.substr(0, end));
+    job.Sent = true;
+    job.SentAt = desktop->Milliseconds();
+}
+
+/// The engine asks for our functions: at its prompt it waits for so many bytes, in the loop for a
+/// request.
+void Define() {
+    if (engine.Loops) return Request('s', "", Definitions());
+    desktop->WriteEngine(std::string(octaveSetUp) + Definitions());
+    CallLoop();
 }
 
 /// The user's answer follows the question, as on a terminal.
@@ -114,41 +175,83 @@ void Ask(Job& job, const Mark& mark) {
     } else {
         Tell("The script is paused. Press OK to continue.", Icon::Information);
     }
-    desktop->WriteEngine(line + "\n");
+    Request('a', "", line);
     job.SentAt = desktop->Milliseconds();
 }
 
-void EndJob(Job& job) {
+/// The answer is complete; what still comes belongs to no script.
+void TakeAnswer(Job& job) {
+    if (job.Told) return;
     engine.Answer = AnswerOf(job.Reader);
+    job.Told = true;
+}
+
+void EndJob(Job& job) {
+    TakeAnswer(job);
     if (job.StoppedAt != Never) engine.Answer += "Stopped.\n";
     job.Ended = true;
 }
 
-/// A script that neither ended nor was interrupted has made the engine quit, which it does in a
+/// The loop runs: it is time for the script, or the script that was broken off is over.
+void GoOn(Job& job, const Mark& mark) {
+    if (mark.Text != std::to_string(engine.Call)) return;
+    engine.Loops = true;
+    if (job.StoppedAt != Never) return EndJob(job);
+    if (!job.Sent) SendScript(job);
+}
+
+/// The loop was left: the script was broken off, or the engine is quitting, which it does in a
 /// moment.
+void Leave(Job& job) {
+    engine.Loops = false;
+    if (!job.Sent || job.Told) return;
+    if (job.StoppedAt == Never) {
+        job.LeftAt = desktop->Milliseconds();
+        return;
+    }
+    TakeAnswer(job);
+}
+
+/// The loop of a script that was broken off must first be known to run again.
+void ReachEnd(Job& job) { job.StoppedAt == Never ? EndJob(job) : TakeAnswer(job); }
+
+/// The engine's complaint stands in the answer where the script was left.
+void Complain(Job& job, const std::string& told) {
+    const auto fault = ReadFault(told, *job.Boxes);
+    InsertText(job.Reader, fault.Told);
+    ReportFailure(fault.Box, fault.Message.substr(0, fault.Message.find('\n')));
+    job.Failed = fault.Box;
+    job.Refused = fault.Refused;
+}
+
 void FollowMark(Job& job, const Mark& mark) {
     switch (mark.Kind) {
         case MarkKind::Line:
         case MarkKind::Pause: return Ask(job, mark);
         case MarkKind::Figures: engine.HasFigures = true; return;
-        default: break;
+        case MarkKind::Functions: return Define();
+        case MarkKind::Loops: return GoOn(job, mark);
+        case MarkKind::Unwound: return Leave(job);
+        case MarkKind::Fault: return Complain(job, mark.Text);
+        case MarkKind::Value: return ReportValue(mark.Text);
+        case MarkKind::Begin:
+            if (mark.Text == job.Id) BeginAnswer(job.Reader);
+            return;
+        case MarkKind::End:
+            if (mark.Text == job.Id) ReachEnd(job);
+            return;
     }
-    if (mark.Text != job.Id) return;
-    if (mark.Kind == MarkKind::Begin) return BeginAnswer(job.Reader);
-    if (mark.Kind == MarkKind::Unwound && job.StoppedAt == Never) {
-        job.LeftAt = desktop->Milliseconds();
-        return;
-    }
-    EndAnswer(job.Reader);
-    EndJob(job);
 }
 
 /// The answer of an engine that is gone ends by saying how it ended.
 void EndWithEngine(Job& job, const EngineNews& news) {
+    LookAtAll(job.Reader);
     EndJob(job);
-    engine.Answer +=
-        news.Crashed ? "Matlab has been ended by signal " : "Matlab has ended with exit code ";
-    engine.Answer += std::to_string(news.Code) + ".\n";
+    const std::string told =
+        (news.Crashed ? "Matlab has been ended by signal " : "Matlab has ended with exit code ") +
+        std::to_string(news.Code) + ".";
+    engine.Answer += told + "\n";
+    if (!job.Boxes->empty()) ReportFailure(job.Failed = job.Boxes->back(), told);
 }
 
 void BreakOff(Job& job) {
@@ -159,7 +262,10 @@ void BreakOff(Job& job) {
 
 void LookAtClock(Job& job) {
     const auto now = desktop->Milliseconds();
-    if (job.LeftAt != Never && now - job.LeftAt >= GoingMilliseconds) return EndJob(job);
+    if (job.LeftAt != Never && now - job.LeftAt >= GoingMilliseconds) {
+        LookAtAll(job.Reader);
+        return EndJob(job);
+    }
     if (job.StoppedAt == Never) {
         if (now - job.SentAt >= QuietMilliseconds) ShowState("Matlab is working. Escape stops it.");
         return;
@@ -188,44 +294,18 @@ void WaitForEnd(Job& job) {
     }
 }
 
-/// The engine complains about a script that it can't parse by a line of its file, which the user
-/// has never seen. That is replaced by the box and the line of that box.
-void NameBox(std::string& answer, const std::string& file, const LineBoxes& boxes) {
-    const auto place = " of file " + file;
-    const auto end = answer.find(place);
-    if (end == std::string::npos || boxes.empty()) return;
-    const auto start = answer.rfind(ParseError, end);
-    if (start == std::string::npos) return;
-    const auto told = std::atoll(answer.c_str() + start + std::string_view(ParseError).size());
-    // The end of the script is reported as the line after its last one.
-    const auto last = static_cast<long long>(boxes.size());
-    const auto line = static_cast<std::size_t>(std::clamp(told, 1LL, last) - 1);
-    auto first = line;
-    while (first > 0 && boxes[first - 1] == boxes[line]) --first;
-    answer.replace(start, end + place.size() - start,
-                   NameOf(boxes[line]) + ParseError + std::to_string(line - first + 1));
-}
-
-/// The file has another name each time, since an engine may not look again at one that it knows.
-void RunScript(const std::string& script, const LineBoxes& boxes) {
-    Job job;
-    job.Id = std::to_string(++engine.Script);
+/// False when the engine couldn't parse the script.
+bool RunScript(const std::string& script, const LineBoxes& boxes) {
+    Job job{.Id = std::to_string(++engine.Script), .Script = script, .Boxes = &boxes};
     job.Reader.Token = engine.Token;
-    std::string why;
-    const auto file = engine.Folder.Write("step" + job.Id, script, why);
-    if (file.empty()) {
-        // A part of a script must not run.
-        engine.Answer = "The script could not be written: " + why + ".\n";
-        return;
-    }
-    const BusyScope busy;
-    const auto call = engine.Token + "run(" + Quoted(file) + ",'" + job.Id + "');";
-    desktop->WriteEngine("try," + call + "catch," + AddFolder() + call + "end\n");
     job.SentAt = desktop->Milliseconds();
+    const BusyScope busy;
+    ReportRunning(boxes);
+    engine.Loops ? SendScript(job) : CallLoop();
     WaitForEnd(job);
     ShowState("");
-    engine.Folder.Remove(file);
-    NameBox(engine.Answer, file, boxes);
+    ReportEnd(boxes, job.Failed, job.StoppedAt != Never);
+    return !job.Refused;
 }
 
 }  // namespace
@@ -236,10 +316,9 @@ void StartLink(const std::string& program) {
     while (!name.starts_with(row->Name)) ++row;
     Engine fresh;
     fresh.Token = DrawToken();
-    fresh.Folder.Make(fresh.Token, row->IsOctave);
+    if (!row->IsOctave) fresh.Folder.Make(fresh.Token);
     desktop->StartEngine(program, row->Arguments);
     engine = std::move(fresh);
-    desktop->WriteEngine(AddFolder() + "\n");
     RunScript("", {});
     engine.Answer.clear();
     if (!Answers()) throw RuntimeError(FileNotFound);
@@ -252,6 +331,7 @@ void LinkOpen() {
 void LinkExecute(const std::string& script, const LineBoxes& boxes) {
     if (!Answers()) throw RuntimeError(NoApplicationAnswered);
     engine.Answer.clear();
+    ReportSent(boxes);
     engine.Kept += script;
     auto& kept = engine.KeptBoxes;
     kept.insert(kept.end(), boxes.begin(), boxes.end());
@@ -269,20 +349,23 @@ std::string LinkRequest() { return std::exchange(engine.Answer, ""); }
 
 /// When the block really is open, the engine runs none of it and complains about the missing end.
 std::string LinkFinish(bool come) {
+    linkReport.Box = NoBox;
     const auto rest = std::exchange(engine.Kept, "");
     const auto boxes = std::exchange(engine.KeptBoxes, {});
     if (rest.empty() || !come || !Answers()) return "";
-    const auto told = NameOf(boxes[LineAt(rest, FindOpenBlock(rest))]);
-    RunScript(rest, boxes);
-    const auto answer = LinkRequest();
-    const bool refused = answer.find(ParseError) != std::string::npos;
-    return told + "The block that begins here is never closed.\n" + (refused ? "" : answer);
+    const std::string neverClosed = "The block that begins here is never closed.";
+    const auto box = boxes[LineAt(rest, FindOpenBlock(rest))];
+    auto told = NameOf(box) + neverClosed + "\n";
+    if (RunScript(rest, boxes)) return told + LinkRequest();
+    LinkRequest();
+    ReportRunning(boxes);
+    ReportFailure(box, neverClosed);
+    ReportEnd(boxes, box, false);
+    return told;
 }
 
 void LookAfterFigures() {
-    if (engine.HasFigures && !engine.Busy && Answers()) {
-        desktop->WriteEngine("try," + engine.Token + "run;catch,end\n");
-    }
+    if (engine.HasFigures && engine.Loops && !engine.Busy && Answers()) Request('d', "", "");
 }
 
 void ResetLink() { engine = {}; }

@@ -7,12 +7,12 @@
 
 namespace quorvane {
 
-/// The link to a MATLAB or an Octave that runs as a child of this program, behind pipes. A script
-/// goes to it as a file, together with a call of our function that runs the file and prints a mark
-/// before and after it; what is printed in between is the answer. A script has ended when its end
-/// mark came or the engine is gone, and never for another reason. The user may interrupt it; an
-/// engine that doesn't respond to that is killed after five seconds. Meanwhile
-/// frmTextResults.lblState says what the link is waiting for.
+/// The link to a MATLAB or an Octave that runs as a child of this program, behind pipes. A function
+/// of ours loops in the engine: it reads one script after another, runs it and prints a mark before
+/// and after it; what is printed in between is the answer. A script has ended when its end mark
+/// came or the engine is gone, and never for another reason. The user may interrupt it; an engine
+/// that doesn't respond to that is killed after five seconds. Meanwhile frmTextResults.lblState
+/// says what the link is waiting for. What a run leaves at its boxes stands in linkReport.
 
 /// Starts a program in place of the running one and waits until it answers. Error 53 when it can't
 /// be started or ends at once.

@@ -25,6 +25,7 @@
 #include "matlab_link/directory_dialog.h"
 #include "matlab_link/link.h"
 #include "matlab_link/mfile_index.h"
+#include "matlab_link/run_report.h"
 #include "matlab_link/start_matlab.h"
 #include "platform/file_table.h"
 #include "shell/about.h"
@@ -93,7 +94,9 @@ void ResetApplication() {
     ResetMFileIndex();
     OpenCommandBrowser = ShowCommandBrowser;
     ResetLink();
-    matlabLink = {LinkOpen, LinkExecute, LinkRequest, LinkFinish, mnuFileStartMatlab_Click};
+    ResetReport();
+    matlabLink = {LinkOpen,   LinkExecute, LinkRequest, LinkFinish, mnuFileStartMatlab_Click,
+                  BeginReport};
     ProgramDirectory.clear();
     HelpFile = Manual;
     TourStep = 0;

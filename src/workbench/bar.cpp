@@ -5,11 +5,13 @@
 #include "diagram/box_table.h"
 #include "diagram/selection.h"
 #include "generator/send_to_matlab.h"
+#include "matlab_link/run_report.h"
 #include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "workbench/history.h"
 #include "workbench/live_script.h"
 #include "workbench/recovery.h"
+#include "workbench/run_report.h"
 
 namespace quorvane {
 
@@ -31,9 +33,16 @@ bool Stands(const Notice& said) {
            desktop->Milliseconds() - said.Said < NoticeMilliseconds;
 }
 
+/// How far a run is, and what the link waits for.
+std::string Waiting() {
+    const auto& state = frmTextResults.lblState.Caption;
+    if (linkReport.Box == 0) return state;
+    return RunInWords() + (state.empty() ? "" : ". " + state);
+}
+
 std::string Selected() {
     const int count = SelectedBoxes.UpperBound();
-    if (count == 0) return "";
+    if (count == 0) return RunInWords();
     return NumberText(count) + (count == 1 ? " box selected" : " boxes selected");
 }
 
@@ -50,7 +59,7 @@ void Say(const std::string& text) {
 }
 
 std::string BarState(int document) {
-    if (!frmTextResults.lblState.Caption.empty()) return frmTextResults.lblState.Caption;
+    if (auto waiting = Waiting(); !waiting.empty()) return waiting;
     if (Stands(notice)) return notice.Text;
     switch (EditMode) {
         case 2: return "box " + NumberText(NextBox - 1) + " armed: click to place it";

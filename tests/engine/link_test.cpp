@@ -10,6 +10,7 @@
 #include "engine/examples.h"
 #include "generator/send_to_matlab.h"
 #include "matlab_link/link.h"
+#include "matlab_link/run_report.h"
 #include "platform/runtime_error.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/qt_desktop.h"
@@ -119,6 +120,44 @@ TEST_F(LinkTest, LongAnswersComeWhole) {
     std::string lines;
     for (int i = 1; i <= 20000; ++i) lines += std::to_string(i) + "\n";
     EXPECT_EQ(Send("for i=1:20000,printf('%d\\n',i);end"), lines);
+}
+
+/// The report says which box of a block failed, and what the boxes are worth, without a trace of
+/// that in the user's variables.
+TEST_F(LinkTest, ARunLeavesItsReport) {
+    StartOctave();
+    BeginReport(9);
+    linkReport.wantsValues = true;
+    Send("ans=7;warning('last');");
+    LinkExecute("box1=1:2;box2=3;\r\nfor i=box1\r\n", {1, 2});
+    LinkExecute("box3=nosuch(i);\r\n", {3});
+    LinkExecute("end\r\n", {4});
+    EXPECT_EQ(LinkRequest(), "box3: error: 'nosuch' undefined near line 1, column 6\n");
+    EXPECT_EQ(linkReport.Of[3].Message, "'nosuch' undefined near line 1, column 6");
+    EXPECT_EQ(linkReport.Of[4].State, BoxRun::None);
+    EXPECT_EQ(linkReport.Sent, 4);
+    for (const auto& row : ReadTable("engine/values.tsv")) {
+        LinkExecute("clear box5;" + row[0], {5});
+        EXPECT_EQ(LinkRequest(), "");
+        const auto& report = linkReport.Of[5];
+        EXPECT_EQ(report.Value, row[1]) << row.back();
+        EXPECT_EQ(report.Points.size(), std::stoul(row[2])) << row.back();
+    }
+    EXPECT_EQ(Send("disp(ans),disp(lasterr),disp(lastwarn),disp(who')"),
+              "7\n'nosuch' undefined near line 3, column 6\nlast\n"
+              "{\n  [1,1] = ans\n  [1,2] = box1\n  [1,3] = box2\n  [1,4] = i\n}\n");
+}
+
+/// An engine that sees none of our files, nor a place for its own, does all the same.
+TEST_F(LinkTest, NothingOfOursHasToBeVisible) {
+    const WorkFolder folder;
+    const auto program = folder / "octave-elsewhere";
+    WriteAll(program, "#!/bin/sh\nTMPDIR=/nowhere HOME=/nowhere exec " + Quoted(QUORVANE_OCTAVE) +
+                          " \"$@\"\n");
+    fs::permissions(program, fs::perms::owner_all);
+    StartLink(program);
+    EXPECT_EQ(Send("for i=1:2\r\ndisp(i)\r\nend\r\n"), "1\n2\n");
+    EXPECT_EQ(Send("clear all\r\nx=1;\r\nnobody\r\n").substr(0, 15), "error: 'nobody'");
 }
 
 /// While a script runs, nothing else starts, by whatever way it comes; the question of a script is

@@ -6,11 +6,18 @@
 #include "generator/generator_fixture.h"
 #include "generator/send_to_matlab.h"
 #include "matlab_link/answer_reader.h"
+#include "matlab_link/run_report.h"
 
 namespace quorvane::testing {
 namespace {
 
 namespace fs = std::filesystem;
+
+void Replace(std::string& text, const std::string& from, const std::string& to) {
+    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
+        text.replace(at, from.size(), to);
+    }
+}
 
 /// An engine whose clock only goes while nothing comes from it.
 struct EngineDesktop : ScriptedDesktop {
@@ -19,30 +26,29 @@ struct EngineDesktop : ScriptedDesktop {
     bool Escape = false;
     testing::Texts Trace;  ///< What happens, in its order
     std::size_t Given = 0;
-    std::string File;
+    std::string Folder;  ///< That holds our functions
 
     void StartEngine(const std::string&, const std::vector<std::string>&) override {
-        runs_ = true;
+        runs_ = over_ = true;
+        needs_ = 0;
+        Folder.clear();
         Says.push_front("{b}{e}");
     }
     bool EngineRuns() override { return runs_; }
+    void InterruptEngine() override { Trace.push_back("interrupt"); }
     void WriteEngine(const std::string& bytes) override {
         asked_ = now_;
-        if (bytes.starts_with("addpath(")) return;
-        const auto call = Split(bytes, '\'');
-        if (call.size() < 4) {
-            Trace.push_back(">" + bytes);
-            Trace.back() = Replaced(Trace.back(), token_, "TOKEN");
+        if (bytes.starts_with("\ntry,")) {
+            Called(bytes);
+        } else if (needs_ > 0) {
+            EXPECT_EQ(bytes.size(), needs_);
+            EXPECT_NE(bytes.find("function " + token_ + "loop"), std::string::npos);
+            EXPECT_EQ(bytes.find("TOKEN"), std::string::npos);
+            needs_ = 0;
+            Folder = "none";
         } else {
-            token_ = call[0].substr(4, call[0].size() - 8);
-            File = call[1];
-            Trace.push_back("run " + ReadAll(File));
-            parts_ = Split(Says.empty() ? "" : Spoken(Says.front(), std::stoi(call[3])), '^');
-            if (!Says.empty()) Says.pop_front();
+            Asked(bytes);
         }
-        if (parts_.empty()) return;
-        pending_ += parts_.front();
-        parts_.erase(parts_.begin());
     }
     EngineNews WaitForEngine() override {
         LookAfterFigures();
@@ -75,6 +81,51 @@ struct EngineDesktop : ScriptedDesktop {
     }
 
 private:
+    /// The loop answers unless a script keeps the engine; without our functions it asks for them.
+    void Called(const std::string& bytes) {
+        Trace.push_back("call");
+        const auto end = bytes.find("loop(");
+        token_ = bytes.substr(5, end - 5);
+        const auto folder = bytes.find("addpath('"), size = bytes.find(",0,");
+        if (folder != std::string::npos) Folder = Split(bytes.substr(folder), '\'')[1];
+        SayNext();
+        if (!over_) return;
+        const bool knows = !Folder.empty();
+        if (!knows) needs_ = std::stoul(bytes.substr(size + 3));
+        Say(knows ? "{l " + std::to_string(std::stoi(bytes.substr(end + 5))) + "}" : "{h}");
+    }
+    void Asked(const std::string& bytes) {
+        ASSERT_TRUE(bytes.starts_with(token_)) << bytes;
+        const auto lineEnd = bytes.find('\n');
+        const auto numbers = Numbers(bytes.substr(token_.size() + 2, lineEnd - token_.size() - 2));
+        ASSERT_EQ(static_cast<std::size_t>(numbers.at(0)), bytes.size() - lineEnd - 1) << bytes;
+        const char kind = bytes[token_.size()];
+        const auto text = bytes.substr(lineEnd + 1, bytes.size() - lineEnd - 2);
+        if (kind != 'r') {
+            Trace.push_back(kind == 'a' ? ">" + text : kind == 'd' ? "draw" : "define");
+            return kind == 'd' ? void() : SayNext();
+        }
+        Trace.push_back("run " + text);
+        for (std::size_t i = 2; i < numbers.size(); ++i) {
+            Trace.back() += " ?" + std::to_string(numbers[i]);
+        }
+        script_ = numbers.at(1);
+        parts_ = Split(Says.empty() ? "" : Says.front(), '^');
+        if (!Says.empty()) Says.pop_front();
+        over_ = false;
+        SayNext();
+    }
+    void SayNext() {
+        if (parts_.empty()) return;
+        Say(parts_.front());
+        parts_.erase(parts_.begin());
+    }
+    void Say(const std::string& text) {
+        if (text.find("{e}") != std::string::npos || text.find("{u}") != std::string::npos) {
+            over_ = true;
+        }
+        pending_ += Spoken(text);
+    }
     void End(EngineNews& news, bool crashed, int code) {
         runs_ = false;
         pending_.clear();
@@ -84,28 +135,58 @@ private:
         news.Crashed = crashed;
         news.Code = code;
     }
-    std::string Spoken(std::string text, int id) const {
-        for (const std::string kind : {"b", "e", "u"}) {
-            const auto mark = "\n\1" + token_ + kind + ":";
-            text = Replaced(text, "{" + kind + "}", mark + std::to_string(id) + "\1");
-            text = Replaced(text, "{-" + kind + "}", mark + std::to_string(id - 1) + "\1");
+    /// Marks in braces become those of the engine; "{exit 3}" and "{signal 9}" stay.
+    std::string Spoken(const std::string& text) const {
+        std::string spoken;
+        for (std::size_t at = 0; at < text.size();) {
+            const auto open = std::min(text.find('{', at), text.size());
+            spoken.append(text, at, open - at);
+            at = open;
+            if (at == text.size()) break;
+            const auto end = text.find('}', at);
+            const auto inside = text.substr(at + 1, end - at - 1);
+            const auto kind = inside.starts_with('-') ? inside.substr(1, 1) : inside.substr(0, 1);
+            if (kind == "s" || inside.starts_with("exit")) {
+                spoken += text[at++];
+                continue;
+            }
+            const bool isQuestion = kind == "i" || kind == "p";
+            spoken += (isQuestion ? "\1" : "\n\1") + token_ + kind + ":";
+            if (kind == "b" || kind == "e") {
+                spoken += std::to_string(inside.size() > 1 ? script_ - 1 : script_);
+            } else if (inside.size() > 2) {
+                spoken += inside.substr(2);
+            }
+            spoken += "\1";
+            at = end + 1;
         }
-        text = Replaced(text, "{f}", "\n\1" + token_ + "f:\1");
-        text = Replaced(text, "{p}", "\1" + token_ + "p:\1");
-        text = Replaced(text, "{file}", File);
-        for (auto at = text.find("{i "); at != std::string::npos; at = text.find("{i ")) {
-            text.replace(text.find('}', at), 1, "\1");
-            text.replace(at, 3, "\1" + token_ + "i:");
-        }
-        return text;
+        return spoken;
     }
 
     bool runs_ = false;
+    bool over_ = true;       ///< No script keeps the engine
+    std::size_t needs_ = 0;  ///< The size of the definitions that it waits for
     std::string token_;
     std::string pending_;
-    std::vector<std::string> parts_;  ///< Each waits for a line from the link
+    std::vector<std::string> parts_;  ///< Each waits for something from the link
+    int script_ = 0;
     std::int64_t now_ = 0, asked_ = 0;
 };
+
+/// What stands in the report of a run: each box with its state, and its message or value.
+std::string Report() {
+    static const char* const states[] = {"", " runs", " done", " failed"};
+    Texts told;
+    for (int i = 1; i <= MaxBoxes; ++i) {
+        const auto& box = linkReport.Of[i];
+        if (box.State == BoxRun::None) continue;
+        told.push_back(std::to_string(i) + states[static_cast<int>(box.State)]);
+        if (!box.Message.empty()) told.back() += " " + box.Message;
+        if (!box.Value.empty()) told.back() += "=" + box.Value;
+        if (!box.Points.empty()) told.back() += " " + std::to_string(box.Points.back());
+    }
+    return Joined(told, ",");
+}
 
 struct LinkTest : GeneratorTest {
     EngineDesktop screen;
@@ -142,12 +223,15 @@ struct LinkTest : GeneratorTest {
         screen.Trace.clear();
         screen.Given = 0;
         screen.Cut = cut;
+        BeginReport(0);
+        linkReport.wantsValues = row[0].starts_with("values");
         for (const auto& sent : Split(row[1], '|')) {
             const auto answer = Answer(sent);
             screen.Trace.push_back("=" + answer);
         }
         EXPECT_EQ(Joined(screen.Trace, "|"), row[4]) << "cut at " << cut;
         EXPECT_EQ(frmTextResults.lblState.Caption, "");
+        EXPECT_EQ(Report(), row[5]);
         LinkFinish(false);
         return screen.Given;
     }
@@ -156,7 +240,7 @@ struct LinkTest : GeneratorTest {
 TEST_F(LinkTest, ConversationsCutAnywhere) {
     for (auto row : ReadTable("matlab_link/link.tsv")) {
         SCOPED_TRACE(row.back() + " " + row[0]);
-        for (auto& cell : row) cell = Replaced(cell, "{1}", "\1");
+        for (const std::size_t column : {2, 4}) Replace(row[column], "{1}", "\1");
         const auto size = Play(row, 0);
         for (std::size_t cut = 1; cut < size && !HasFailure(); ++cut) Play(row, cut);
     }
@@ -164,27 +248,29 @@ TEST_F(LinkTest, ConversationsCutAnywhere) {
 
 TEST_F(LinkTest, AFloodIsCountedBeyondItsLimit) {
     const std::string kept(AnswerLimit, 'x');
-    const Texts row = {"", "x", "{b}" + kept + std::string(1000, 'y') + "{e}", "",
-                       "run x|=" + kept + "\n... 1000 bytes more\n"};
+    const Texts row = {"",
+                       "x",
+                       "{b}" + kept + std::string(1000, 'y') + "{e}",
+                       "",
+                       "run x|=" + kept + "\n... 1000 bytes more\n",
+                       ""};
     const auto size = Play(row, 0);
     for (const auto cut : {AnswerLimit, size - 50, size - 25, size - 2}) Play(row, cut);
 }
 
-TEST_F(LinkTest, NothingIsLeftBehind) {
-    screen.Says = {"{exit 1}"};
-    StartLink("octave");
-    EXPECT_EQ(Answer("x"), "Matlab has ended with exit code 1.\n");
-    EXPECT_FALSE(fs::exists(screen.File)) << "the script";
-    const auto folder = fs::path(screen.File).parent_path();
-    EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
+TEST_F(LinkTest, FunctionsInAFolderGoWithTheirEngine) {
     StartLink("matlab");
-    EXPECT_FALSE(fs::exists(folder)) << "the former engine's folder";
-    EXPECT_FALSE(fs::exists(fs::path(screen.File).parent_path() / "system_dependent.m"));
-    fs::remove_all(fs::path(screen.File).parent_path());
-    EXPECT_EQ(Answer("x"), "The script could not be written: No such file or directory.\n");
+    const fs::path folder = screen.Folder;
+    EXPECT_EQ(fs::status(folder).permissions(), fs::perms::owner_all);
+    EXPECT_TRUE(fs::exists(folder / "input.m"));
+    EXPECT_FALSE(fs::exists(folder / "system_dependent.m"));
+    screen.Says = {"{exit 1}"};
+    EXPECT_EQ(Answer("x"), "Matlab has ended with exit code 1.\n");
+    StartLink("octave");
+    EXPECT_FALSE(fs::exists(folder)) << "the former engine's";
     StartLink("matlab");
     ResetLink();
-    EXPECT_FALSE(fs::exists(fs::path(screen.File).parent_path()));
+    EXPECT_FALSE(fs::exists(screen.Folder));
     EXPECT_EQ(Answer("x"), "error 282");
 }
 

@@ -25,6 +25,9 @@ namespace {
 
 constexpr int FileNotFound = 53;
 constexpr int WaitMilliseconds = 200;
+/// Most boxes answer within this time; turning to the windows meanwhile would take longer than
+/// they.
+constexpr int SoonMilliseconds = 5;
 constexpr int ShowMilliseconds = 100;
 constexpr int IdleMilliseconds = 300;
 /// Output that arrives while nobody waits is kept up to this many bytes.
@@ -128,7 +131,8 @@ EngineNews MatlabProcess::Wait() {
         shown_.start();
     }
     escape_ = false;
-    if (IsRunning() && process_.bytesAvailable() == 0) WaitInLoop();
+    const bool waits = IsRunning() && process_.bytesAvailable() == 0 && !ComesSoon();
+    if (waits && IsRunning()) WaitInLoop();
     EngineNews news;
     news.Escape = escape_;
     news.Ended = !IsRunning();
@@ -136,6 +140,13 @@ EngineNews MatlabProcess::Wait() {
     news.Crashed = process_.exitStatus() == QProcess::CrashExit;
     news.Code = process_.exitCode();
     return news;
+}
+
+bool MatlabProcess::ComesSoon() {
+    waits_ = true;
+    const bool came = process_.waitForReadyRead(SoonMilliseconds);
+    waits_ = false;
+    return came;
 }
 
 void MatlabProcess::WaitInLoop() {
@@ -150,6 +161,7 @@ void MatlabProcess::WaitInLoop() {
 
 void MatlabProcess::Came() {
     if (waiting_) return waiting_->quit();
+    if (waits_) return;
     if (process_.bytesAvailable() > UnreadLimit) process_.readAll();
 }
 

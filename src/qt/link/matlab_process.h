@@ -35,10 +35,12 @@ protected:
 private:
     void Stop();
     void Came();
+    bool ComesSoon();
     void WaitInLoop();
 
     QProcess process_;
     QEventLoop* waiting_ = nullptr;  ///< The loop of the wait
+    bool waits_ = false;             ///< In a short wait, which paints nothing
     bool escape_ = false;            ///< Escape was pressed in this wait
     QTimer idle_;                    ///< Lets an idle engine update its figures
     QElapsedTimer shown_;            ///< Since the windows last took over the records

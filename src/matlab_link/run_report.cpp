@@ -1,0 +1,74 @@
+// SPDX-License-Identifier: MIT
+#include "matlab_link/run_report.h"
+
+#include <cstdlib>
+
+namespace quorvane {
+
+LinkReport linkReport;
+
+namespace {
+
+bool IsBox(int number) { return number >= 1 && number <= MaxBoxes; }
+
+BoxReport* ReportOf(int box) { return IsBox(box) ? &linkReport.Of[box] : nullptr; }
+
+std::vector<double> Numbers(const char* text) {
+    std::vector<double> numbers;
+    for (char* end = nullptr;; text = end) {
+        const double number = std::strtod(text, &end);
+        if (end == text) return numbers;
+        numbers.push_back(number);
+    }
+}
+
+}  // namespace
+
+void BeginReport(int total) {
+    linkReport = {.wantsValues = linkReport.wantsValues, .Total = total};
+}
+
+void ReportSent(const LineBoxes& lines) {
+    std::int16_t last = 0;
+    for (const auto box : lines) {
+        if (box != last) ++linkReport.Sent;
+        last = box;
+    }
+    linkReport.Box = last;
+}
+
+void ReportRunning(const LineBoxes& lines) {
+    for (const auto box : lines) {
+        if (auto* report = ReportOf(box)) *report = {.State = BoxRun::Running};
+    }
+}
+
+void ReportEnd(const LineBoxes& lines, std::int16_t failed, bool stopped) {
+    bool reached = !stopped;
+    for (const auto box : lines) {
+        if (box == failed && failed != 0) reached = false;
+        auto* report = ReportOf(box);
+        if (report && report->State == BoxRun::Running) {
+            report->State = reached ? BoxRun::Done : BoxRun::None;
+        }
+    }
+}
+
+void ReportFailure(std::int16_t box, std::string_view message) {
+    auto* report = ReportOf(box);
+    if (!report) return;
+    report->State = BoxRun::Failed;
+    report->Message = message;
+}
+
+void ReportValue(const std::string& told) {
+    auto* report = ReportOf(std::atoi(told.c_str()));
+    const auto start = told.find(':'), end = told.find('\n');
+    if (!report || start == std::string::npos || end == std::string::npos) return;
+    report->Value = told.substr(start + 1, end - start - 1);
+    report->Points = Numbers(told.c_str() + end);
+}
+
+void ResetReport() { linkReport = {}; }
+
+}  // namespace quorvane

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "diagram/box_table.h"
+#include "generator/link_door.h"
+
+namespace quorvane {
+
+enum class BoxRun { None, Running, Done, Failed };
+
+/// What the last run left at a box.
+struct BoxReport {
+    BoxRun State = BoxRun::None;
+    std::string Message;         ///< Why it failed, in one line
+    std::string Value;           ///< Class, size, range and first elements of its variable, or ""
+    std::vector<double> Points;  ///< Up to 64 points of a real vector, in its order
+};
+
+/// What the last run into MATLAB left, written by the link. A script of several boxes, which is a
+/// block, is run when its last box has been sent.
+struct LinkReport {
+    bool wantsValues =
+        false;      ///< Values are asked for. Whoever shows them sets it; a run leaves it
+    int Box = 0;    ///< The box that was sent last in a run that goes on, 0 for none
+    int Sent = 0;   ///< How many boxes have been sent
+    int Total = 0;  ///< How many boxes the document has that are run
+    CheckedArray<BoxReport, 1, MaxBoxes> Of;
+};
+extern LinkReport linkReport;
+
+/// A run of so many boxes starts: all that the last one left is cleared.
+void BeginReport(int total);
+/// The boxes of these lines have been sent.
+void ReportSent(const LineBoxes& lines);
+/// A script of these lines starts.
+void ReportRunning(const LineBoxes& lines);
+/// It has ended. When it failed in a box, the boxes before that one are done and those behind it
+/// were not reached; `failed` is 0 otherwise. A script that was `stopped` leaves nothing done.
+void ReportEnd(const LineBoxes& lines, std::int16_t failed, bool stopped);
+void ReportFailure(std::int16_t box, std::string_view message);
+/// Takes the text of a value as the engine tells it: the box, ":", the value, a line end, the
+/// points.
+void ReportValue(const std::string& told);
+
+void ResetReport();
+
+}  // namespace quorvane
