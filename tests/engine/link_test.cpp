@@ -150,7 +150,6 @@ TEST_F(LinkTest, ARunLeavesItsReport) {
 
 /// An engine that sees none of our files, nor a place for its own, does all the same.
 TEST_F(LinkTest, NothingOfOursHasToBeVisible) {
-    const WorkFolder folder;
     const auto program = folder / "octave-elsewhere";
     WriteAll(program, "#!/bin/sh\nTMPDIR=/nowhere HOME=/nowhere exec " + Quoted(QUORVANE_OCTAVE) +
                           " \"$@\"\n");

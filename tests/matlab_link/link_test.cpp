@@ -13,12 +13,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void Replace(std::string& text, const std::string& from, const std::string& to) {
-    for (auto at = text.find(from); at != std::string::npos; at = text.find(from, at + to.size())) {
-        text.replace(at, from.size(), to);
-    }
-}
-
 /// An engine whose clock only goes while nothing comes from it.
 struct EngineDesktop : ScriptedDesktop {
     std::deque<std::string> Says;  ///< What each script makes it say
@@ -240,7 +234,7 @@ struct LinkTest : GeneratorTest {
 TEST_F(LinkTest, ConversationsCutAnywhere) {
     for (auto row : ReadTable("matlab_link/link.tsv")) {
         SCOPED_TRACE(row.back() + " " + row[0]);
-        for (const std::size_t column : {2, 4}) Replace(row[column], "{1}", "\1");
+        for (auto& cell : row) cell = Replaced(cell, "{1}", "\1");
         const auto size = Play(row, 0);
         for (std::size_t cut = 1; cut < size && !HasFailure(); ++cut) Play(row, cut);
     }
