@@ -113,6 +113,8 @@ void NoteLines(Run& run, int box) {
         run.linesEnded = 0;
         run.bytesCounted = 0;
     }
+    // A box that isn't ready has written nothing, or blanks alone.
+    if (text.size() == run.bytesCounted) return;
     const auto* fresh = text.data() + run.bytesCounted;
     run.linesEnded += std::count(fresh, text.data() + text.size(), '\n');
     run.bytesCounted = text.size();
