@@ -3,10 +3,12 @@
 % is "l" for a call of the loop, which runs already, and "q" when the link has closed.
 % Octave's fgetl waits for the character after the line too.
 function [kind, numbers, text] = TOKENnext ()
-  mlock ();
-  persistent isOctave
-  if builtin ('isempty', isOctave)
+  persistent isOctave size
+  if size
+  else
+    mlock ();
     isOctave = builtin ('exist', 'OCTAVE_VERSION', 'builtin') > 0;
+    size = builtin ('numel', 'TOKEN');
   end
   kind = 'q';  numbers = [];  text = '';
   while true
@@ -14,7 +16,7 @@ function [kind, numbers, text] = TOKENnext ()
     if ~builtin ('ischar', line), return; end
     first = builtin ('strfind', line, 'TOKEN');
     if builtin ('isempty', first), continue; end
-    head = line(first(1) + builtin ('numel', 'TOKEN'):end);
+    head = line(first(1) + size:end);
     if first(1) == 1, break; end
     if builtin ('strncmp', head, 'loop(', 5)
       kind = 'l';

@@ -3,20 +3,25 @@
 % A line is evaluated as it is. A script of several lines is read from a file of the engine's own, so
 % that nothing of it runs unless all of it can be read, and an error has its line.
 function TOKENrun (id, boxes, text)
-  mlock ();
+  persistent isLocked
+  if isLocked, else, mlock (); isLocked = true; end
   id = builtin ('sprintf', '%d', id);
   problem = [];
   file = '';
-  if builtin ('any', text == 10), file = TOKENstore (text); end
+  isStored = false;
+  if builtin ('any', text == 10)
+    file = TOKENstore (text);
+    isStored = ~builtin ('isempty', file);
+  end
   TOKENtell ('b', id);
   try
-    if builtin ('isempty', file)
-      TOKENevaluate (text);
-    else
+    if isStored
       gone = onCleanup (@() builtin ('unlink', file));
       step = ['TOKENstep' id];
       builtin ('autoload', step, file);
       TOKENevaluate (step);
+    else
+      TOKENevaluate (text);
     end
   catch problem
   end
@@ -27,6 +32,6 @@ function TOKENrun (id, boxes, text)
     evalin ('base', text);
   end
   TOKENafter (boxes, problem, file);
-  if ~builtin ('isempty', file), builtin ('autoload', step, file, 'remove'); end
+  if isStored, builtin ('autoload', step, file, 'remove'); end
   TOKENtell ('e', id);
 end
