@@ -25,8 +25,9 @@ namespace quorvane {
 namespace {
 
 constexpr int BoxRole = Qt::UserRole;
-/// Findings beyond these lines are scrolled to.
-constexpr int FindingLines = 5;
+/// A finding takes about three lines; beyond the second number the list scrolls.
+constexpr int LinesOfFinding = 3;
+constexpr int MostLines = 10;
 
 }  // namespace
 
@@ -101,7 +102,7 @@ void ScriptPanel::ShowFindings() {
         item->setData(BoxRole, finding.Box);
     }
     findings_->setVisible(findings_->count() > 0);
-    const int lines = qMin(findings_->count(), FindingLines) * 2;
+    const int lines = qMin(findings_->count() * LinesOfFinding, MostLines);
     findings_->setMaximumHeight(lines * findings_->fontMetrics().lineSpacing() + 8);
 }
 
