@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/sheet/worksheet_view.h"
 
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QPainter>
