@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: MIT
+#include "compile/options.h"
+
+#include <CLI/CLI.hpp>
+
+#include "compile/output.h"
+#include "quorvane/version.h"
+
+namespace quorvane {
+
+namespace {
+
+void AddCompiling(CLI::App& app, Options& options) {
+    app.add_option("-o,--output", options.Output, "Write there instead of to standard output")
+        ->option_text("FILE");
+    app.add_flag("--start-unwired", options.StartUnwired,
+                 "Start at every box without arrows into it, too");
+    app.add_option("--answers", options.AnswersFile, "Answer the run's questions from this file")
+        ->option_text("FILE");
+    app.add_option("--mode", options.Mode,
+                   "1 compiles to text (default), 0 as for MATLAB, text by text")
+        ->check(CLI::IsMember({0, 1}))
+        ->option_text("NUMBER");
+}
+
+void AddReviews(CLI::App& app, Options& options) {
+    auto* check =
+        app.add_flag("--check", options.Check,
+                     "Don't compile: report what would go wrong in a run, exit 1 if anything")
+            ->option_text(" ");
+    auto* picture = app.add_option("--picture", options.Picture,
+                                   "Don't compile: draw the diagram into this file, as SVG")
+                        ->option_text("FILE");
+    for (const char* const compiling : {"--output", "--answers", "--mode"}) {
+        for (auto* const review : {check, picture}) review->excludes(app.get_option(compiling));
+    }
+}
+
+}  // namespace
+
+std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
+    CLI::App app("Compiles a Quorvane diagram to MATLAB script.", "quorvane-compile");
+    app.set_version_flag("--version", "quorvane-compile " QUORVANE_VERSION);
+    app.add_option("DIAGRAM", options.Diagrams, "The diagram file (.qvm), - for standard input")
+        ->required()
+        ->option_text(" ");
+    AddCompiling(app, options);
+    AddReviews(app, options);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::Success& success) {
+        return app.exit(success);
+    } catch (const CLI::ParseError& error) {
+        return Refuse(error.what());
+    }
+    if (options.Diagrams.size() > 1 && !options.IsReview()) {
+        return Refuse(options.Diagrams[1] + ": only one diagram can be compiled at a time");
+    }
+    return std::nullopt;
+}
+
+}  // namespace quorvane

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quorvane {
+
+/// How the program ends. Of several diagrams the worst, which is the highest, counts.
+enum ExitCode { RunFinished = 0, RunBrokenOff = 1, NothingCompiled = 2, RunFailed = 3 };
+enum ReviewCode { NothingFound = 0, SomethingFound = 1 };
+
+/// What the command line asks for.
+struct Options {
+    std::vector<std::string> Diagrams;  ///< At least one; several for a review alone
+    std::string Output;                 ///< "" for standard output
+    std::string AnswersFile;
+    int Mode = 1;
+    bool StartUnwired = false;
+    bool Check = false;
+    std::string Picture;  ///< "" for none
+
+    /// True when the diagrams are looked at and none is compiled.
+    bool IsReview() const { return Check || !Picture.empty(); }
+};
+
+/// Reads the command line. When there is nothing left to do, because it is wrong or asks for help,
+/// gives back the exit code.
+std::optional<int> ReadOptions(int argc, char** argv, Options& options);
+
+}  // namespace quorvane
