@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "workbench/history.h"
 
+#include <algorithm>
 #include <deque>
 
 #include "diagram/box_table.h"
@@ -28,9 +29,10 @@ History history;
 Snapshot& Present() { return history.Steps[history.Present].After; }
 
 /// The number that the next box would have if none were armed, -1 where arming has already changed
-/// what was there: with a pending arrow, with a full table or before the first worksheet.
+/// what was there: with a pending arrow, with a full table or before the first worksheet. Each
+/// command that is run with a pending arrow lowers NextBox, also below 1; there are no boxes then.
 int NextBoxAtRest() {
-    if (EditMode != 2) return NextBox;
+    if (EditMode != 2) return std::max<int>(NextBox, 1);
     return NextBox == Present().NextBox + 1 ? NextBox - 1 : -1;
 }
 
@@ -110,7 +112,7 @@ int HistoryChanges() { return history.Changes; }
 const Snapshot& PresentSnapshot() { return Present(); }
 
 void BeginHistory() {
-    UpdateSnapshot(Present(), NextBox);
+    UpdateSnapshot(Present(), std::max<int>(NextBox, 1));
     history.Steps = {{"", Present()}};
     history.Present = 0;
     ++history.Changes;

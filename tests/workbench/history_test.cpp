@@ -4,6 +4,9 @@
 #include <cstdlib>
 #include <sstream>
 
+#include "commands/run_command.h"
+#include "diagram/placement.h"
+#include "files/close_document.h"
 #include "files/document_fixture.h"
 #include "support/random_user.h"
 #include "workbench/after_event.h"
@@ -92,6 +95,29 @@ TEST_F(HistoryTest, EveryStateComesBackWholeAfterRandomEditing) {
         for (int i = 0; i < 500 && !HasFailure(); ++i)
             step(user.Any(states.size() - at > 20 ? 2 : 3) == 0);
     }
+}
+
+TEST_F(HistoryTest, AClosingThatTakesANumberTooManyLeavesNoStepBehind) {
+    const auto place = [] {
+        RunBoxCommand(*Documents[1], "mnuTrigSin");
+        PlaceArmedBox(*Documents[1], 0, 0);
+        AfterEvent();
+    };
+    NewDocument();
+    place();
+    EditMode = 3;
+    RunBoxCommand(*Documents[1], "mnuTrigCos");
+    DocumentStates[1].Modified = 0;
+    CloseDocument(1);
+    AfterEvent();
+    EXPECT_EQ(NextBox, 0);
+    NewDocument();
+    place();
+    EXPECT_EQ(UndoName(), "new worksheet");
+    place();
+    EXPECT_EQ(UndoName(), "place Sin");
+    Undo();
+    EXPECT_EQ(NextBox, 1);
 }
 
 }  // namespace
