@@ -104,6 +104,7 @@ TEST_F(HistoryTest, AClosingThatTakesANumberTooManyLeavesNoStepBehind) {
         AfterEvent();
     };
     NewDocument();
+    AfterEvent();
     place();
     EditMode = 3;
     RunBoxCommand(*Documents[1], "mnuTrigCos");
@@ -112,6 +113,7 @@ TEST_F(HistoryTest, AClosingThatTakesANumberTooManyLeavesNoStepBehind) {
     AfterEvent();
     EXPECT_EQ(NextBox, 0);
     NewDocument();
+    AfterEvent();
     place();
     EXPECT_EQ(UndoName(), "new worksheet");
     place();

@@ -138,13 +138,20 @@ Texts TextsOf(const std::string& line) {
 /// kill came between the next texts and their write.
 TEST_F(RecoveryTest, WhatWasWrittenOutlivesAKillAtAnyMoment) {
     int compared = 0;
-    for (unsigned seed = 1; seed <= 6; ++seed) {
+    const auto steps = [] {
+        return fs::exists("log") ? Split(ReadAll("log"), '\n').size() : std::size_t(0);
+    };
+    for (unsigned seed = 1; seed <= 20; ++seed) {
         for (const auto& name : NamesIn(".")) fs::remove_all(name);
+        fs::remove_all(screen.State);
         const auto process = fork();
         if (process == 0) EditForEver(seed, screen.State);
-        usleep(60000 * seed + std::random_device()() % 30000);
+        int status = 0;
+        while (waitpid(process, &status, WNOHANG) == 0 && steps() < 10 * seed) usleep(1000);
+        usleep(std::random_device()() % 10000);
         kill(process, SIGKILL);
-        waitpid(process, nullptr, 0);
+        waitpid(process, &status, 0);
+        EXPECT_EQ(WTERMSIG(status), SIGKILL) << "the editor ended by itself, seed " << seed;
         std::set<std::string> found = {HashOf("0\r\n")};
         auto files = Files();
         for (const auto& name : NamesIn(".")) {
