@@ -10,6 +10,10 @@ std::int16_t NextBox = 1;
 std::int16_t EditMode = 0;
 std::int16_t ArrowSource = 0;
 
+namespace {
+std::uint32_t lastId = 0;
+}  // namespace
+
 const Box& BoxOrFree(int number) {
     static const Box free;
     return number >= 0 && number <= MaxBoxes ? Boxes[number] : free;
@@ -43,8 +47,15 @@ void FreeRecord(Box& box) {
     box = std::move(free);
 }
 
+void GiveBoxIds() {
+    for (int i = 1; i < NextBox; ++i) {
+        if (BoxOrFree(i).Id == 0 && i <= MaxBoxes) Boxes[i].Id = ++lastId;
+    }
+}
+
 void ResetBoxTable() {
     Boxes.Fill(Box());
+    lastId = 0;
     NextBox = 1;
     EditMode = 0;
     ArrowSource = 0;

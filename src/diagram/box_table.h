@@ -30,6 +30,9 @@ struct Box {
     CheckedArray<std::int32_t, 1, 5> BoxLineColor;
     std::int32_t BoxLeft = 0;  ///< Upper left corner on the sheet, in screen units of 1/1440 inch
     std::int32_t BoxTop = 0;
+    /// Stays with the box when its number changes, and is never given again; 0 in a free record and
+    /// until GiveBoxIds.
+    std::uint32_t Id = 0;
 
     friend bool operator==(const Box&, const Box&) = default;
 };
@@ -69,6 +72,9 @@ std::string BoxName(int number);
 
 /// Makes a record free, but for its place: that of its last use stays.
 void FreeRecord(Box& box);
+
+/// Gives each new box its Id.
+void GiveBoxIds();
 
 void ResetBoxTable();
 

@@ -13,6 +13,11 @@ bool IsBox(int number) { return number >= 1 && number <= MaxBoxes; }
 
 BoxReport* ReportOf(int box) { return IsBox(box) ? &linkReport.Of[box] : nullptr; }
 
+void NoteBox(int number) {
+    const Box& box = Boxes[number];
+    linkReport.Ran[number] = {box.Id, box.BoxType, box.BoxText, box.BoxIn};
+}
+
 std::vector<double> Numbers(const char* text) {
     std::vector<double> numbers;
     for (char* end = nullptr;; text = end) {
@@ -25,7 +30,10 @@ std::vector<double> Numbers(const char* text) {
 }  // namespace
 
 void BeginReport(int total) {
-    linkReport = {.wantsValues = linkReport.wantsValues, .Total = total};
+    linkReport = {
+        .wantsValues = linkReport.wantsValues, .Total = total, .Runs = linkReport.Runs + 1};
+    GiveBoxIds();
+    for (int i = 1; i < NextBox && IsBox(i); ++i) NoteBox(i);
 }
 
 void ReportSent(const LineBoxes& lines) {
@@ -39,7 +47,10 @@ void ReportSent(const LineBoxes& lines) {
 
 void ReportRunning(const LineBoxes& lines) {
     for (const auto box : lines) {
-        if (auto* report = ReportOf(box)) *report = {.State = BoxRun::Running};
+        auto* report = ReportOf(box);
+        if (!report) continue;
+        *report = {.State = BoxRun::Running};
+        NoteBox(box);  // The run may have asked for its text.
     }
 }
 

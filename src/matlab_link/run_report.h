@@ -21,6 +21,14 @@ struct BoxReport {
     std::vector<double> Points;  ///< Up to 64 points of a real vector, in its order
 };
 
+/// A box as it was in a run.
+struct BoxAsRun {
+    std::uint32_t Id = 0;  ///< 0 for no box
+    std::string Type;
+    std::string Text;
+    CheckedArray<std::int16_t, 1, 3> In;
+};
+
 /// What the last run into MATLAB left, written by the link. A script of several boxes, which is a
 /// block, is run when its last box has been sent.
 struct LinkReport {
@@ -29,7 +37,11 @@ struct LinkReport {
     int Box = 0;    ///< The box that was sent last in a run that goes on, 0 for none
     int Sent = 0;   ///< How many boxes have been sent
     int Total = 0;  ///< How many boxes the document has that are run
+    int Runs = 0;   ///< How many runs have begun
+    /// By the numbers that the boxes had in the run; ReportOf (workbench/run_report.h) follows them
+    /// to those of today.
     CheckedArray<BoxReport, 1, MaxBoxes> Of;
+    CheckedArray<BoxAsRun, 1, MaxBoxes> Ran;
 };
 extern LinkReport linkReport;
 

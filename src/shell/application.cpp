@@ -40,6 +40,7 @@
 #include "workbench/live_script.h"
 #include "workbench/recovery.h"
 #include "workbench/recovery_offer.h"
+#include "workbench/run_report.h"
 
 namespace quorvane {
 
@@ -95,6 +96,7 @@ void ResetApplication() {
     OpenCommandBrowser = ShowCommandBrowser;
     ResetLink();
     ResetReport();
+    ResetShownReports();
     matlabLink = {LinkOpen,   LinkExecute, LinkRequest, LinkFinish, mnuFileStartMatlab_Click,
                   BeginReport};
     ProgramDirectory.clear();

@@ -3,6 +3,7 @@
 #include <stdexcept>
 
 #include "matlab_link/mfile_index.h"
+#include "matlab_link/run_report.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
 #include "window/window_fixture.h"
@@ -264,9 +265,25 @@ Words WindowTest::Looks() {
         // What a screen reader is told of a row of a list.
         {"reads", Seen([this](A a) {
              auto* list = QAccessible::queryAccessibleInterface(Find(a))->tableInterface();
-             auto* cell = list->cellAt(a[0], 0);
+             auto* cell = list->cellAt(a[0], a.Given.size() > 1 ? a[1] : 0);
              const auto state = cell->state();
              return ToCore(cell->text(QAccessible::Name)) + (state.selected ? " *" : "");
+         })},
+        // The tool tip that comes up by itself.
+        {"told", Seen([](A) {
+             EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::isVisible(); }));
+             return ToCore(QToolTip::text());
+         })},
+        // A run that leaves these values at the boxes from 1 on, or failures: "!no".
+        {"ran", Step([](A a) {
+             Dispatch([&] {
+                 BeginReport(0);
+                 for (std::int16_t box = 0; const auto& left : Split(a.Text, '|')) {
+                     ReportRunning({++box});
+                     ReportValue(std::to_string(box) + ":" + left + "\n");
+                     if (left[0] == '!') ReportFailure(box, left);
+                 }
+             });
          })},
         {"role", Seen([this](A a) {
              return static_cast<int>(QAccessible::queryAccessibleInterface(Find(a))->role());
@@ -307,6 +324,11 @@ Words WindowTest::Looks() {
                                 : a.Text == "inverse" ? QColor(sheet.rgb() ^ 0xFFFFFFU)
                                                       : QColor(ToScreen(a.Text));
              return ColoredIn(picture, a[0], {a[1], a[2]}, color);
+         })},
+        {"fades", Step([this](A a) {
+             EXPECT_TRUE(QTest::qWaitFor([&] {
+                 return ColoredIn(Screen(Surface()), a[0], {a[1], a[2]}, ToScreen(a.Text)) == 0;
+             }));
          })},
         {"keep", Step([this](A a) { kept_ = Screen(Find(a)); })},
         {"kept", Seen([this](A a) { return Screen(Find(a)) == kept_; })},

@@ -21,12 +21,14 @@
 #include "workbench/bar.h"
 #include "workbench/history.h"
 #include "workbench/outline.h"
+#include "workbench/run_report.h"
 
 namespace quorvane {
 
 namespace {
 
 constexpr int NumberRole = Qt::UserRole;
+constexpr int ShownRole = Qt::UserRole + 1;  ///< Of the value: what it shows
 constexpr int FaceSide = 24;
 constexpr int ValueColumn = 5;
 
@@ -39,7 +41,7 @@ QStringList Cells(const OutlineRow& row) {
 }
 
 /// A small curve of the points that are numbers; null without at least two.
-QPixmap Curve(const std::vector<double>& points, const QPalette& colors, qreal ratio) {
+QPixmap Curve(const std::vector<double>& points, const QColor& color, qreal ratio) {
     QPolygonF curve;
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (std::isfinite(points[i])) curve.append({static_cast<double>(i), points[i]});
@@ -50,7 +52,7 @@ QPixmap Curve(const std::vector<double>& points, const QPalette& colors, qreal r
     drawn.fill(Qt::transparent);
     QPainter painter(&drawn);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(colors.color(QPalette::Highlight), 1.5));
+    painter.setPen(QPen(color, 1.5));
     const auto extent = curve.boundingRect();
     const QRectF room(2, 3, FaceSide * 2 - 4, FaceSide - 6);
     for (auto& point : curve) {
@@ -152,18 +154,29 @@ void BoxesPanel::List() {
     for (int i = 0; i < boxes_->columnCount(); ++i) boxes_->resizeColumnToContents(i);
 }
 
-/// What the last run left: a failure, or the value and its curve.
+/// What the last run left: a failure, or the value and its curve; grey when it is out of date.
 void BoxesPanel::ShowValues() {
     for (QTreeWidgetItemIterator at(boxes_); *at; ++at) {
         const int number = (*at)->data(0, NumberRole).toInt();
-        if (number == 0) continue;
-        const auto& report = linkReport.Of[number];
-        const auto text = ToScreen(report.Message.empty() ? report.Value : report.Message);
-        if ((*at)->text(ValueColumn) == text.simplified()) continue;
-        (*at)->setText(ValueColumn, text.simplified());
-        (*at)->setToolTip(ValueColumn, text);
-        (*at)->setIcon(ValueColumn, Curve(report.Points, palette(), devicePixelRatioF()));
+        const auto words = ToScreen(ReportInWords(number));
+        const auto shown = QString::number(linkReport.Runs) + words;
+        if (number == 0 || (*at)->data(ValueColumn, ShownRole) == shown) continue;
+        (*at)->setData(ValueColumn, ShownRole, shown);
+        ShowValue(*at, number, words);
     }
+}
+
+void BoxesPanel::ShowValue(QTreeWidgetItem* item, int number, const QString& words) {
+    const auto& report = ReportOf(number);
+    const bool old = IsOutOfDate(number);
+    const auto group = old ? QPalette::Disabled : QPalette::Active;
+    const auto& text = report.Message.empty() ? report.Value : report.Message;
+    item->setText(ValueColumn, ToScreen(text).simplified());
+    item->setForeground(ValueColumn, palette().color(group, QPalette::Text));
+    item->setToolTip(ValueColumn, words);
+    item->setData(ValueColumn, Qt::AccessibleTextRole, words);
+    const auto color = palette().color(group, old ? QPalette::Text : QPalette::Highlight);
+    item->setIcon(ValueColumn, Curve(report.Points, color, devicePixelRatioF()));
 }
 
 /// True for a key of the list.

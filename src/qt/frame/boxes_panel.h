@@ -6,6 +6,7 @@
 class QLineEdit;
 class QPushButton;
 class QTreeWidget;
+class QTreeWidgetItem;
 
 namespace quorvane {
 
@@ -26,6 +27,7 @@ protected:
 private:
     void List();
     void ShowValues();
+    void ShowValue(QTreeWidgetItem* item, int number, const QString& words);
     int Current() const;
     bool TakeKey(int key, Qt::KeyboardModifiers modifiers);
 

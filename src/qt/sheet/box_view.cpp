@@ -7,6 +7,9 @@
 #include <QKeyEvent>
 #include <QMimeData>
 #include <QPainter>
+#include <QPointer>
+#include <QProxyStyle>
+#include <utility>
 
 #include "commands/worksheet_events.h"
 #include "diagram/box_info.h"
@@ -16,6 +19,7 @@
 #include "qt/desktop/screen_units.h"
 #include "qt/sheet/mouse.h"
 #include "qt/sheet/surface_view.h"
+#include "workbench/run_report.h"
 
 namespace quorvane {
 
@@ -43,7 +47,29 @@ QPixmap DrawFace(int cell, int side, bool focused, qreal ratio) {
 
 constexpr QColor FindingColor(0xD9, 0x5B, 0x0E);
 constexpr QColor FailureColor(0xC6, 0x20, 0x2E);
+constexpr QColor OldFailureColor(0x80, 0x80, 0x80);
 constexpr QColor RunningColor(0x2F, 0x94, 0x48);
+
+/// The tool tip with the value comes soon.
+class BoxStyle : public QProxyStyle {
+public:
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* more) const override {
+        constexpr int milliseconds = 500;
+        if (hint == SH_ToolTip_WakeUpDelay) return milliseconds;
+        return QProxyStyle::styleHint(hint, option, widget, more);
+    }
+};
+
+/// That of all boxes; the application owns it.
+QStyle* StyleOfBoxes() {
+    static QPointer<BoxStyle> style;
+    if (!style) {
+        style = new BoxStyle;
+        style->setParent(qApp);
+    }
+    return style;
+}
 
 /// A frame round the box that MATLAB works at.
 void PaintRunning(QPainter& painter, int side) {
@@ -89,6 +115,7 @@ BoxView::BoxView(int document, int number, SurfaceView* surface)
     setObjectName(QString("box(%1)").arg(number));
     setMouseTracking(true);
     setFocusPolicy(Qt::TabFocus);
+    setStyle(StyleOfBoxes());
 }
 
 Worksheet& BoxView::Sheet() const { return DocumentWindow(document_); }
@@ -121,14 +148,17 @@ void BoxView::Refresh(const BoxControl& control) {
     }
 }
 
-void BoxView::SetMarks(const std::string& finding, const BoxReport& report) {
-    const bool same = finding_ == finding && report_.State == report.State &&
-                      report_.Message == report.Message && report_.Value == report.Value;
-    if (same) return;
+void BoxView::SetMarks(const std::string& finding) {
+    const auto run = ReportOf(number_).State;
+    const bool isOld = IsOutOfDate(number_);
+    auto left = ReportInWords(number_);
+    if (finding_ == finding && run_ == run && isOld_ == isOld && left_ == left) return;
     finding_ = finding;
-    report_ = report;
+    run_ = run;
+    isOld_ = isOld;
+    left_ = std::move(left);
     QStringList lines;
-    for (const auto* text : {&report.Message, &finding, &report.Value}) {
+    for (const auto* text : {&left_, &finding_}) {
         if (!text->empty()) lines.append(ToScreen(*text));
     }
     setToolTip(lines.join('\n'));
@@ -139,11 +169,13 @@ void BoxView::SetMarks(const std::string& finding, const BoxReport& report) {
 void BoxView::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.drawPixmap(0, 0, Face(picture_, width(), hasFocus(), devicePixelRatioF()));
-    if (report_.State == BoxRun::Running) PaintRunning(painter, width());
-    if (report_.State == BoxRun::Failed) {
+    if (run_ == BoxRun::Running) PaintRunning(painter, width());
+    if (run_ == BoxRun::Failed && !isOld_) {
         PaintMark(painter, width(), FailureColor);
     } else if (!finding_.empty()) {
         PaintMark(painter, width(), FindingColor);
+    } else if (run_ == BoxRun::Failed) {
+        PaintMark(painter, width(), OldFailureColor);
     }
 }
 

@@ -19,9 +19,9 @@ public:
     void Refresh(const BoxControl& control);
     int Document() const { return document_; }
     int Number() const { return number_; }
-    /// What the check finds at the box, "" for nothing, and what the last run left there. Either is
-    /// marked at the corner and told by the tool tip.
-    void SetMarks(const std::string& finding, const BoxReport& report);
+    /// Marks what the check finds at the box, "" for nothing, and what the last run left there, at
+    /// its corner. The tool tip tells either.
+    void SetMarks(const std::string& finding);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
@@ -48,7 +48,9 @@ private:
     bool pressed_ = false;
     QPoint pressedAt_;
     std::string finding_;
-    BoxReport report_;
+    BoxRun run_ = BoxRun::None;  ///< What the last run left, whether it is out of date, its words
+    bool isOld_ = false;
+    std::string left_;
 };
 
 }  // namespace quorvane

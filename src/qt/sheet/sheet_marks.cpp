@@ -182,21 +182,24 @@ QRegion RegionOf(const BoxHighlight& highlight, const SheetScale& scale) {
 }
 
 QRect PendingFrame(const Worksheet& sheet, const SheetScale& scale) {
-    const int source = ArrowSource;
-    if (EditMode != 4 || !sheet.box.Has(source)) return {};
-    if (BoxOrFree(source).BoxDocument != DocumentNumber(sheet)) return {};
+    return EditMode == 4 ? FrameOf(sheet, ArrowSource, scale) : QRect();
+}
+
+QRect FrameOf(const Worksheet& sheet, int number, const SheetScale& scale) {
+    if (!sheet.box.Has(number)) return {};
+    if (BoxOrFree(number).BoxDocument != DocumentNumber(sheet)) return {};
     constexpr int distance = 4;
-    const auto& control = sheet.box[source];
+    const auto& control = sheet.box[number];
     const QRect box(scale.ToPixels(control.Left, control.Top),
                     QSize(scale.ToPixels(control.Width), scale.ToPixels(control.Height)));
     return box.adjusted(-distance, -distance, distance, distance);
 }
 
-void PaintPendingFrame(QPainter& painter, const QRect& frame) {
+void PaintFrame(QPainter& painter, const QRect& frame, int width) {
     if (frame.isEmpty()) return;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(FocusColor, 2));
+    painter.setPen(QPen(FocusColor, width));
     painter.setBrush(Qt::NoBrush);
     painter.drawRoundedRect(frame.adjusted(1, 1, -1, -1), 6, 6);
     painter.restore();

@@ -49,7 +49,9 @@ QRegion RegionOf(const BoxHighlight& highlight, const SheetScale& scale);
 /// The frame round the box at which the pending arrow begins, in pixels; empty while no arrow is
 /// pending on this worksheet.
 QRect PendingFrame(const Worksheet& sheet, const SheetScale& scale);
-void PaintPendingFrame(QPainter& painter, const QRect& frame);
+/// The frame round box `number`; empty for a number without a box on the worksheet.
+QRect FrameOf(const Worksheet& sheet, int number, const SheetScale& scale);
+void PaintFrame(QPainter& painter, const QRect& frame, int width);
 
 /// Boxes with a finding wear a mark: as long as the panel that lists the findings is open.
 extern bool showsFindings;

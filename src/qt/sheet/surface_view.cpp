@@ -20,6 +20,10 @@ namespace quorvane {
 
 namespace {
 
+constexpr int PendingWidth = 2;
+constexpr int FlashWidth = 4;
+constexpr int FlashMilliseconds = 600;
+
 QRect BandOf(const RectangleShape& shape, const SheetScale& scale) {
     if (!shape.Visible) return {};
     const auto from = scale.ToPixels(shape.Left, shape.Top);
@@ -37,6 +41,8 @@ SurfaceView::SurfaceView(int document, const SheetScale& scale, QWidget* parent)
     setAcceptDrops(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
+    flashEnd_.setSingleShot(true);
+    flashEnd_.callOnTimeout(this, [this] { Mark(flashed_, 0); });
 }
 
 Worksheet& SurfaceView::Sheet() const { return DocumentWindow(document_); }
@@ -75,18 +81,31 @@ void SurfaceView::RefreshMarks() {
         UpdateEdges(pending);
         pending_ = pending;
     }
+    const auto flash = FrameOf(sheet, flashed_, scale_);
+    if (flash != flash_) {
+        UpdateEdges(flash_);
+        UpdateEdges(flash);
+        flash_ = flash;
+    }
 }
 
-/// The mouse leaves a box, too, when its worksheet has just been closed.
-void SurfaceView::Hover(int number) {
-    hovered_ = number;
+/// The mouse leaves a box, and a flash ends, too, when the worksheet has just been closed.
+void SurfaceView::Mark(int& mark, int number) {
+    mark = number;
     if (document_ <= Documents.UpperBound() && Documents[document_]) RefreshMarks();
+}
+
+void SurfaceView::Hover(int number) { Mark(hovered_, number); }
+
+void SurfaceView::Flash(int number) {
+    Mark(flashed_, number);
+    flashEnd_.start(FlashMilliseconds);
 }
 
 /// Only the edges of a frame are painted, so only they are repainted.
 void SurfaceView::UpdateEdges(const QRect& frame) {
     if (frame.isEmpty()) return;
-    constexpr int margin = 2;
+    constexpr int margin = FlashWidth;
     const auto outer = frame.adjusted(-margin, -margin, margin, margin);
     update(QRegion(outer) - QRegion(frame.adjusted(margin, margin, -margin, -margin)));
 }
@@ -113,7 +132,8 @@ void SurfaceView::paintEvent(QPaintEvent* event) {
         PaintHighlight(painter, highlight_, scale_);
         PaintBoxLabels(painter, labels_, scale_, event->rect());
     }
-    PaintPendingFrame(painter, pending_);
+    PaintFrame(painter, pending_, PendingWidth);
+    PaintFrame(painter, flash_, FlashWidth);
     if (band_.isEmpty()) return;
     painter.setCompositionMode(QPainter::CompositionMode_Difference);
     painter.setPen(QPen(Qt::white, 1));

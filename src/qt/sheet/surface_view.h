@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QPixmap>
+#include <QTimer>
 #include <QWidget>
 #include <vector>
 
@@ -23,6 +24,8 @@ public:
     SheetPan& Pan() { return pan_; }
     /// The mouse has come over this box, or has left it for none, 0.
     void Hover(int number);
+    /// Frames this box for a moment.
+    void Flash(int number);
     /// The box that the last press of the mouse was on while nothing was pending, 0 for none: the
     /// first half of a double click.
     int LastPress() const { return lastPress_; }
@@ -45,6 +48,7 @@ private:
     void DrawLayer();
     /// Takes over what has changed in the marks.
     void RefreshMarks();
+    void Mark(int& mark, int number);
     /// Repaints where a frame, such as the rubber band, was or is.
     void UpdateEdges(const QRect& frame);
     void TakePress(QMouseEvent* event);
@@ -63,9 +67,12 @@ private:
     bool layerIsOld_ = false;  ///< It shows other shapes than drawn_
     QRect band_;               ///< The rubber band as painted, empty when hidden
     int lastPress_ = 0;
-    int hovered_ = 0;            ///< The box under the mouse, 0 for none
-    BoxHighlight highlight_;     ///< Its arrows as painted
-    QRect pending_;              ///< The frame round the source of the pending arrow as painted
+    int hovered_ = 0;         ///< The box under the mouse, 0 for none
+    BoxHighlight highlight_;  ///< Its arrows as painted
+    QRect pending_;           ///< The frame round the source of the pending arrow as painted
+    int flashed_ = 0;
+    QRect flash_;  ///< The frame round that box as painted
+    QTimer flashEnd_;
     bool keyboardBand_ = false;  ///< Arrow keys with Shift are drawing a band
 };
 

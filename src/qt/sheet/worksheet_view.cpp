@@ -184,6 +184,7 @@ void WorksheetView::ShowBox(int number) {
                     ? boxes_[static_cast<std::size_t>(number)]
                     : nullptr;
     if (box) box->setFocus(Qt::ShortcutFocusReason);
+    surface_->Flash(number);
 }
 
 /// With Ctrl the wheel zooms, a step for each notch; the place under the mouse stays.
@@ -320,7 +321,7 @@ void WorksheetView::RefreshMarks() {
         }
     }
     for (std::size_t i = 1; i < boxes_.size(); ++i) {
-        if (boxes_[i]) boxes_[i]->SetMarks(findings_[i], linkReport.Of[static_cast<int>(i)]);
+        if (boxes_[i]) boxes_[i]->SetMarks(findings_[i]);
     }
 }
 
