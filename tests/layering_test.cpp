@@ -17,7 +17,7 @@ namespace fs = std::filesystem;
 const std::map<std::string, int> Levels = {
     {"platform", 0},  {"catalogue", 1}, {"diagram", 1}, {"commands", 1},    {"generator", 2},
     {"check", 2},     {"files", 2},     {"toolbox", 3}, {"matlab_link", 3}, {"shell", 4},
-    {"workbench", 4}, {"qt", 5},        {"compile", 5},
+    {"workbench", 4}, {"qt", 5},        {"compile", 5}, {"picture", 5},
 };
 
 /// What each file and each folder includes.

@@ -8,7 +8,8 @@
 
 #include "catalogue/box_commands.h"
 #include "catalogue/icon_table.h"
-#include "compile/picture.h"
+#include "compile/icon_files.h"
+#include "diagram/picture.h"
 
 using namespace quorvane;
 
@@ -21,6 +22,8 @@ constexpr int Margin = 16;
 constexpr int Gap = 20;  // between entries
 
 std::string Number(int number) { return std::to_string(number); }
+
+std::string Drawing(int cell) { return IconDrawing(IconFile(cell)); }
 
 std::string Escaped(std::string_view key) {
     std::string text;
@@ -54,7 +57,7 @@ std::string Text(int x, int y, const char* attributes, const std::string& text) 
 std::string Tile(int cell, int x, int y, const std::string& colors) {
     const auto place = " x=\"" + Number(x) + "\" y=\"" + Number(y) + "\"";
     std::string tile = "<rect" + place + " width=\"32\" height=\"32\" rx=\"4\" " + colors + "/>";
-    if (!IconDrawing(cell).empty()) {
+    if (!Drawing(cell).empty()) {
         tile += "<use" + place + " width=\"32\" height=\"32\" xlink:href=\"#cell" + Number(cell) +
                 "\"/>";
     }
@@ -63,7 +66,7 @@ std::string Tile(int cell, int x, int y, const std::string& colors) {
 
 std::string Entry(int cell, int x, int y) {
     std::string entry;
-    if (IconDrawing(cell).empty()) {
+    if (Drawing(cell).empty()) {
         entry += Tile(cell, x, y, "fill=\"none\" stroke=\"#b0b4ba\" stroke-dasharray=\"3 3\"");
     } else {
         entry += Tile(cell, x, y, "fill=\"#fbfbf8\"") + Tile(cell, x + 40, y, "fill=\"#202225\"");
@@ -90,9 +93,9 @@ std::string Sheet() {
     int top = 0;
     int bottom = 0;
     for (int cell = 1; cell <= IconCells; ++cell) {
-        if (const auto drawing = IconDrawing(cell); !drawing.empty()) {
-            drawings += "<symbol id=\"cell" + Number(cell) + "\" viewBox=\"0 0 32 32\">" +
-                        std::string(drawing) + "</symbol>\n";
+        if (const auto drawing = Drawing(cell); !drawing.empty()) {
+            drawings += "<symbol id=\"cell" + Number(cell) + "\" viewBox=\"0 0 32 32\">" + drawing +
+                        "</symbol>\n";
         }
         if (top >= wanted) {
             ++column;

@@ -23,14 +23,30 @@ void AddCompiling(CLI::App& app, Options& options) {
         ->option_text("NUMBER");
 }
 
+CLI::Option* AddPicture(CLI::App& app, PictureOrder& order) {
+    auto* picture =
+        app.add_option("--picture", order.File,
+                       "Don't compile: draw the diagram into this file, .svg, .pdf or .png")
+            ->option_text("FILE");
+    app.add_flag("--paper", order.Paper, "Draw dark arrows on white, for print")
+        ->option_text(" ")
+        ->needs(picture);
+    app.add_flag("--numbers", order.Numbers, "Write the name of each box below it")
+        ->option_text(" ")
+        ->needs(picture);
+    app.add_option("--scale", order.Scale, "Make a PNG larger or smaller, 0.1 to 10 times")
+        ->check(CLI::Range(0.1, 10.0))
+        ->option_text("NUMBER")
+        ->needs(picture);
+    return picture;
+}
+
 void AddReviews(CLI::App& app, Options& options) {
     auto* check =
         app.add_flag("--check", options.Check,
                      "Don't compile: report what would go wrong in a run, exit 1 if anything")
             ->option_text(" ");
-    auto* picture = app.add_option("--picture", options.Picture,
-                                   "Don't compile: draw the diagram into this file, as SVG")
-                        ->option_text("FILE");
+    auto* picture = AddPicture(app, options.Picture);
     for (const char* const compiling : {"--output", "--answers", "--mode"}) {
         for (auto* const review : {check, picture}) review->excludes(app.get_option(compiling));
     }
@@ -56,6 +72,8 @@ std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
     if (options.Diagrams.size() > 1 && !options.IsReview()) {
         return Refuse(options.Diagrams[1] + ": only one diagram can be compiled at a time");
     }
+    const auto complaint = Complaint(options.Picture);
+    if (!complaint.empty()) return Refuse(complaint);
     return std::nullopt;
 }
 

@@ -5,6 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "compile/picture.h"
+
 namespace quorvane {
 
 /// How the program ends. Of several diagrams the worst, which is the highest, counts.
@@ -19,10 +21,10 @@ struct Options {
     int Mode = 1;
     bool StartUnwired = false;
     bool Check = false;
-    std::string Picture;  ///< "" for none
+    PictureOrder Picture;
 
     /// True when the diagrams are looked at and none is compiled.
-    bool IsReview() const { return Check || !Picture.empty(); }
+    bool IsReview() const { return Check || !Picture.File.empty(); }
 };
 
 /// Reads the command line. When there is nothing left to do, because it is wrong or asks for help,

@@ -1,17 +1,27 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <map>
+#include <optional>
 #include <string>
-#include <string_view>
 
 namespace quorvane {
 
-/// The diagram of this document as the worksheet shows it, as an SVG picture: its arrows and boxes
-/// on the sheet's colour. Pointing at a box shows its number and the text of its bubble.
-std::string DocumentPicture(int document);
+/// What --picture and the options that go with it ask for.
+struct PictureOrder {
+    std::string File;  ///< "" for no picture
+    bool Paper = false;
+    bool Numbers = false;
+    std::optional<double> Scale;
+};
 
-/// What the icon of a cell of the strip draws, as SVG elements in a square of 32 by 32; "" for a
-/// cell without one. The build makes these texts from resources/icons.
-std::string_view IconDrawing(int cell);
+/// Why no diagram can be drawn so: one line, "" for nothing.
+std::string Complaint(const PictureOrder& order);
+
+/// Draws the diagram of this document, with colours for boxes that stand out. Returns one line that
+/// says what went wrong, "" for nothing.
+std::string DrawPicture(const PictureOrder& order, int document,
+                        const std::map<int, std::int32_t>& tints = {});
 
 }  // namespace quorvane

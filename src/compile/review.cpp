@@ -30,8 +30,9 @@ std::string FindingLines(const std::vector<Finding>& findings, const std::string
 int ReviewOne(ConsoleDesktop& console, const Options& options, const std::string& path) {
     std::string why;
     if (!LoadDiagram(console, path, why)) return Refuse(why);
-    if (!options.Picture.empty() && !WriteOutput(options.Picture, DocumentPicture(1))) {
-        return Refuse(options.Picture + ": The picture can't be written");
+    if (!options.Picture.File.empty()) {
+        const auto fault = DrawPicture(options.Picture, 1);
+        if (!fault.empty()) return Refuse(fault);
     }
     if (!options.Check) return NothingFound;
     const auto findings = CheckDocument(1);

@@ -51,16 +51,21 @@ DrawnShape Head(const Pen& pen, const BoxControl& S, const BoxControl& D, double
     return Pie(pen, D.Left + D.Width, middle, 100, -1.05 - 1.5 * Pi, -0.7);
 }
 
+void AddArrow(std::vector<DrawnShape>& shapes, const Worksheet& window, int source, int destination,
+              int entry) {
+    const Pen pen = {Boxes[source].BoxLineColor[entry], window.DrawWidth};
+    const auto& S = window.box[source];
+    const auto& D = window.box[destination];
+    DrawLegsAndHead(shapes, pen, S, D, entry);
+}
+
 }  // namespace
 
 void DrawArrow(int source, int destination, int entry, const char* /*mode*/, int document) {
     if (destination <= 0) return;
     Attempt([&] {
         auto& window = DocumentWindow(document);
-        const Pen pen = {Boxes[source].BoxLineColor[entry], window.DrawWidth};
-        const auto& S = window.box[source];
-        const auto& D = window.box[destination];
-        DrawLegsAndHead(window.Surface, pen, S, D, entry);
+        AddArrow(window.Surface, window, source, destination, entry);
     });
 }
 
@@ -86,18 +91,25 @@ int FindEntrySlot(int source, int destination) {
     return 1;
 }
 
+void AddArrows(std::vector<DrawnShape>& shapes, int document) {
+    const auto& window = DocumentWindow(document);
+    for (int i = 1; i <= NextBox; ++i) {
+        const Box& box = BoxOrFree(i);
+        if (box.BoxDocument != document) continue;
+        for (int j = 1; j <= 5; ++j) {
+            const int peer = box.BoxOut[j];
+            if (peer < 1) continue;
+            Attempt([&] { AddArrow(shapes, window, i, peer, FindEntrySlot(i, peer)); });
+        }
+    }
+}
+
 void RedrawDocument(const std::string& document) {
     if (document.empty()) return;
     const int number = TextToInt16(document);
-    DocumentWindow(number).Surface.clear();
-    for (int i = 1; i <= NextBox; ++i) {
-        const Box& box = BoxOrFree(i);
-        if (box.BoxDocument != number) continue;
-        for (int j = 1; j <= 5; ++j) {
-            const int peer = box.BoxOut[j];
-            if (peer >= 1) DrawArrow(i, peer, FindEntrySlot(i, peer), "b", number);
-        }
-    }
+    auto& surface = DocumentWindow(number).Surface;
+    surface.clear();
+    AddArrows(surface, number);
 }
 
 }  // namespace quorvane

@@ -31,8 +31,12 @@ void DrawLegsAndHead(std::vector<DrawnShape>& surface, const Pen& pen, const Box
 /// The lowest entry of `destination` that holds `source`, 1 when there is none.
 int FindEntrySlot(int source, int destination);
 
-/// Clears the surface of the document with this number and paints all its arrows, by box and exit,
-/// so that later ones lie over earlier ones. "" paints nothing.
+/// Adds all arrows of a document, by box and exit, so that later ones lie over earlier ones. One
+/// that can't be drawn is left out.
+void AddArrows(std::vector<DrawnShape>& shapes, int document);
+
+/// Clears the surface of the document with this number and paints all its arrows. "" paints
+/// nothing.
 void RedrawDocument(const std::string& document);
 
 }  // namespace quorvane
