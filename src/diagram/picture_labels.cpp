@@ -61,6 +61,7 @@ PixelRect United(const PixelRect& a, const PixelRect& b) {
 std::vector<DrawnLabel> PlaceLabels(const std::vector<DrawnBox>& boxes,
                                     const std::vector<DrawnShape>& arrows) {
     std::vector<PixelRect> taken;
+    taken.reserve(2 * boxes.size() + arrows.size());
     for (const auto& box : boxes) taken.push_back(box.Place);
     for (const auto& shape : arrows) taken.push_back(PlaceOf(shape));
     std::vector<DrawnLabel> labels;
