@@ -1,4 +1,5 @@
-% Tells the link something by a mark in the output, which is written at once as a whole.
+% Tells the link something by a mark in the output, which is written as a whole: at once, but for
+% those after which the end of the script is told.
 function TOKENtell (kind, text)
   persistent edge start
   if edge
@@ -8,5 +9,5 @@ function TOKENtell (kind, text)
     start = [builtin('char', 10) edge 'TOKEN'];
   end
   builtin ('fprintf', 1, '%s', [start kind ':' text edge]);
-  builtin ('fflush', 1);
+  if kind ~= 'v' && kind ~= 'x' && kind ~= 'f', builtin ('fflush', 1); end
 end

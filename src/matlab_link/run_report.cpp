@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "matlab_link/run_report.h"
 
+#include <cmath>
 #include <cstdlib>
 
 namespace quorvane {
@@ -18,13 +19,12 @@ void NoteBox(int number) {
     linkReport.Ran[number] = {box.Id, box.BoxType, box.BoxText, box.BoxIn};
 }
 
-std::vector<double> Numbers(const char* text) {
-    std::vector<double> numbers;
-    for (char* end = nullptr;; text = end) {
-        const double number = std::strtod(text, &end);
-        if (end == text) return numbers;
-        numbers.push_back(number);
+std::vector<double> Points(std::string_view letters) {
+    std::vector<double> points;
+    for (const char letter : letters) {
+        points.push_back(letter < '!' ? std::nan("") : letter - '!');
     }
+    return points;
 }
 
 }  // namespace
@@ -77,7 +77,7 @@ void ReportValue(const std::string& told) {
     const auto start = told.find(':'), end = told.find('\n');
     if (!report || start == std::string::npos || end == std::string::npos) return;
     report->Value = told.substr(start + 1, end - start - 1);
-    report->Points = Numbers(told.c_str() + end);
+    report->Points = Points(std::string_view(told).substr(end + 1));
 }
 
 void ResetReport() { linkReport = {}; }

@@ -18,7 +18,8 @@ struct BoxReport {
     BoxRun State = BoxRun::None;
     std::string Message;         ///< Why it failed, in one line
     std::string Value;           ///< Class, size, range and first elements of its variable, or ""
-    std::vector<double> Points;  ///< Up to 64 points of a real vector, in its order
+    /// Up to 64 points of a real vector, from 0 for the lowest to 89, NaN where it isn't finite.
+    std::vector<double> Points;
 };
 
 /// A box as it was in a run.
@@ -55,8 +56,8 @@ void ReportRunning(const LineBoxes& lines);
 /// were not reached; `failed` is 0 otherwise. A script that was `stopped` leaves nothing done.
 void ReportEnd(const LineBoxes& lines, std::int16_t failed, bool stopped);
 void ReportFailure(std::int16_t box, std::string_view message);
-/// Takes the text of a value as the engine tells it: the box, ":", the value, a line end, the
-/// points.
+/// Takes the text of a value as the engine tells it: the box, ":", the value, a line end, and a
+/// letter for each point, "!" for 0 and a blank for NaN.
 void ReportValue(const std::string& told);
 
 void ResetReport();

@@ -177,7 +177,7 @@ std::string Report() {
         told.push_back(std::to_string(i) + states[static_cast<int>(box.State)]);
         if (!box.Message.empty()) told.back() += " " + box.Message;
         if (!box.Value.empty()) told.back() += "=" + box.Value;
-        if (!box.Points.empty()) told.back() += " " + std::to_string(box.Points.back());
+        for (const double point : box.Points) told.back() += " " + std::to_string(point);
     }
     return Joined(told, ",");
 }
