@@ -20,6 +20,8 @@
 #include "support/scripted_desktop.h"
 #include "workbench/after_event.h"
 #include "workbench/history.h"
+#include "workbench/live_script.h"
+#include "workbench/quick_find.h"
 #include "workbench/recovery.h"
 
 using namespace quorvane;
@@ -155,13 +157,59 @@ void Resting(benchmark::State& state, const Shape& shape, int boxes) {
     Noticing(state, shape, boxes, 0);
 }
 
+/// Makes the workbench look at the diagram anew.
+void NoteChange(int boxes) {
+    ++Boxes[boxes / 2].BoxLeft;
+    AfterEvent();
+}
+
+/// The script as it stands, with what the check finds.
+void Listing(benchmark::State& state, const Shape& shape, int boxes) {
+    const auto subject = Prepare(shape, boxes);
+    DrawOnNewSheet(subject.Boxes);
+    Measure(
+        state, subject, [&] { NoteChange(boxes); }, [] { ScriptOf(1); });
+    if (ScriptOf(1).Text.size() != subject.Walk.ScriptBytes) state.SkipWithError("another script");
+}
+
+/// What is found at each box of a diagram whose arrows into every other box are gone.
+void Advising(benchmark::State& state, const Shape& shape, int boxes) {
+    const auto subject = Prepare(shape, boxes);
+    DrawOnNewSheet(subject.Boxes);
+    for (int i = 2; i <= boxes; i += 2) {
+        for (auto& entry : Boxes[i].BoxIn) {
+            if (entry <= 0) continue;
+            for (auto& exit : Boxes[entry].BoxOut) exit = exit == i ? std::int16_t{0} : exit;
+            entry = 0;
+        }
+    }
+    std::size_t found = 0;
+    const auto work = [&] {
+        for (int i = 1; i <= boxes; ++i) found += FindingsOfBox(i).size();
+    };
+    Measure(
+        state, subject, [&] { NoteChange(boxes); }, work);
+    if (found == 0) state.SkipWithError("nothing was found");
+}
+
+/// The first key of a search, which all boxes fit.
+void Searching(benchmark::State& state, const Shape& shape, int boxes) {
+    const auto subject = Prepare(shape, boxes);
+    DrawOnNewSheet(subject.Boxes);
+    std::vector<QuickRow> rows;
+    Measure(
+        state, subject, [] {}, [&] { rows = FindQuick("b"); });
+    if (std::ssize(rows) < boxes) state.SkipWithError("not all boxes were found");
+}
+
 struct Operation {
     const char* Name;
     void (*Run)(benchmark::State& state, const Shape& shape, int boxes);
 };
 constexpr Operation operations[] = {
-    {"load", Loading},  {"compile", Compiling}, {"check", Checking},    {"save", Saving},
-    {"step", Stepping}, {"rest", Resting},      {"recover", Recovering}};
+    {"load", Loading},     {"compile", Compiling}, {"check", Checking},     {"save", Saving},
+    {"step", Stepping},    {"rest", Resting},      {"recover", Recovering}, {"script", Listing},
+    {"findings", Advising}, {"search", Searching}};
 
 /// Under the names operation/shape/boxes.
 void RegisterAll() {

@@ -16,8 +16,8 @@ enum class BoxRun { None, Running, Done, Failed };
 /// What the last run left at a box.
 struct BoxReport {
     BoxRun State = BoxRun::None;
-    std::string Message;         ///< Why it failed, in one line
-    std::string Value;           ///< Class, size, range and first elements of its variable, or ""
+    std::string Message;  ///< Why it failed, in one line
+    std::string Value;    ///< Class, size, range and first elements of its variable, or ""
     /// Up to 64 points of a real vector, from 0 for the lowest to 89, NaN where it isn't finite.
     std::vector<double> Points;
 };

@@ -152,15 +152,28 @@ TEST_F(LinkTest, ARunLeavesItsReport) {
               "{\n  [1,1] = ans\n  [1,2] = box1\n  [1,3] = box2\n  [1,4] = i\n}\n");
 }
 
-/// An engine that sees none of our files, nor a place for its own, does all the same.
+/// An engine that sees none of our files does all the same: one without a place for its own, and,
+/// where the system lets us, one behind a wall, with an empty "/tmp".
 TEST_F(LinkTest, NothingOfOursHasToBeVisible) {
     const auto program = folder / "octave-elsewhere";
-    WriteAll(program, "#!/bin/sh\nTMPDIR=/nowhere HOME=/nowhere exec " + Quoted(QUORVANE_OCTAVE) +
-                          " \"$@\"\n");
-    fs::permissions(program, fs::perms::owner_all);
-    StartLink(program);
-    EXPECT_EQ(Send("for i=1:2\r\ndisp(i)\r\nend\r\n"), "1\n2\n");
-    EXPECT_EQ(Send("clear all\r\nx=1;\r\nnobody\r\n").substr(0, 15), "error: 'nobody'");
+    const auto octave = "exec " + Quoted(QUORVANE_OCTAVE) + " \"$@\"\n";
+    const auto alone = "#!/bin/sh\nTMPDIR=/nowhere HOME=/nowhere " + octave;
+    const auto walled =
+        "#!/bin/sh\n[ \"$walled\" ] || walled=y exec unshare -rm \"$0\" \"$@\"\n"
+        "cd / && mount -t tmpfs tmpfs /tmp && " +
+        octave;
+    const bool hasWalls = std::system("unshare -rm mount -t tmpfs tmpfs /tmp 2>/dev/null") == 0;
+    for (const auto& script : {alone, hasWalls ? walled : alone}) {
+        WriteAll(program, script);
+        fs::permissions(program, fs::perms::owner_all);
+        StartLink(program);
+        const bool sees = script == alone;
+        EXPECT_EQ(Send("disp(exist('" + program + "'))"), sees ? "2\n" : "0\n");
+        EXPECT_EQ(Send("for i=1:2\r\ndisp(i)\r\nend\r\n"), "1\n2\n");
+        EXPECT_EQ(Send("clear all\r\nx=1;\r\nnobody\r\n").substr(0, 15), "error: 'nobody'");
+        EXPECT_EQ(Stopped("while true,end", 300), "Stopped.\n");
+        EXPECT_EQ(Send("disp(1)"), "1\n");
+    }
 }
 
 /// While a script runs, nothing else starts, by whatever way it comes; the question of a script is
