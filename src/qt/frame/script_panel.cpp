@@ -16,6 +16,7 @@
 #include "platform/paths.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/frame/frame_view.h"
+#include "qt/frame/picture_menu.h"
 #include "qt/sheet/sheet_marks.h"
 #include "workbench/history.h"
 #include "workbench/live_script.h"
@@ -57,6 +58,8 @@ ScriptPanel::ScriptPanel(QWidget* parent) : QWidget(parent) {
     auto* head = new QHBoxLayout;
     head->addWidget(title_, 1);
     head->addWidget(copy_);
+    picture_ = MakePictureButton(this);
+    head->addWidget(picture_);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(4, 4, 4, 4);
     rows->addLayout(head);
@@ -85,6 +88,7 @@ void ScriptPanel::Refresh() {
     title_->setText(open ? ToScreen(FileNameOf(DocumentWindow(document_).Caption))
                          : "No worksheet");
     copy_->setEnabled(!live.Text.empty());
+    picture_->setEnabled(open);
     LightLines();
 }
 

@@ -31,6 +31,7 @@ private:
 
     QLabel* title_;
     QPushButton* copy_;
+    QPushButton* picture_;
     QListWidget* findings_;
     QPlainTextEdit* script_;
     int document_ = 0;  ///< The worksheet and the step that are shown

@@ -7,6 +7,7 @@
 
 #include "qt/desktop/dispatch.h"
 #include "qt/frame/frame_view.h"
+#include "qt/frame/picture_menu.h"
 #include "qt/sheet/sheet_marks.h"
 #include "qt/sheet/worksheet_view.h"
 
@@ -29,9 +30,14 @@ void ToggleBoxNumbers(WorksheetView& /*view*/) {
     Dispatch([] { showsBoxNumbers = !showsBoxNumbers; });
 }
 
+void Print(WorksheetView& view) {
+    Dispatch([&] { PrintDiagram(view.Document()); });
+}
+
 constexpr SheetKey Keys[] = {
     {"Ctrl++", ZoomIn},     {"Ctrl+=", ZoomIn},       {"Ctrl+-", ZoomOut},
     {"Ctrl+0", NormalSize}, {"Ctrl+9", WholeDiagram}, {"Ctrl+Shift+N", ToggleBoxNumbers},
+    {"Ctrl+P", Print},
 };
 
 }  // namespace
