@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: MIT
 #include "platform/svg_text.h"
 
-#include <charconv>
+#include <cmath>
 #include <cstdio>
+
+#include "platform/numbers.h"
 
 namespace quorvane {
 
@@ -29,14 +31,18 @@ bool IsCharacter(std::string_view text, std::size_t at, std::size_t& length) {
 
 }  // namespace
 
+/// By hand: it depends on no locale, and the library's way adds 180 KB to the program.
 std::string Pixels(double pixels, int decimals) {
-    char text[400];
-    const auto end =
-        std::to_chars(text, text + sizeof text, pixels, std::chars_format::fixed, decimals).ptr;
-    std::string number(text, end);
-    number.erase(number.find_last_not_of('0') + 1);
-    if (number.ends_with(".")) number.pop_back();
-    return number == "-0" ? "0" : number;
+    std::int64_t whole = 1;
+    for (int i = 0; i < decimals; ++i) whole *= 10;
+    const std::int64_t parts = std::llround(std::abs(pixels) * static_cast<double>(whole));
+    auto number = NumberText(parts / whole);
+    if (parts % whole != 0) {
+        auto digits = NumberText(whole + parts % whole);
+        digits[0] = '.';
+        number += digits.erase(digits.find_last_not_of('0') + 1);
+    }
+    return pixels < 0 && parts != 0 ? "-" + number : number;
 }
 
 std::string Point(double x, double y) { return Pixels(x) + " " + Pixels(y); }
