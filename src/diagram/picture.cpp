@@ -81,7 +81,7 @@ std::int32_t DarkOnWhite(std::int32_t color) {
 
 /// A face that is mostly as it was.
 std::int32_t Tinted(std::int32_t face, std::int32_t tint) {
-    constexpr int share = 3;  // of which the tint is one
+    constexpr int share = 4;  // of which the tint is one
     std::int32_t mixed = 0;
     for (int shift = 0; shift < 24; shift += 8) {
         const int part = ((face >> shift & 0xFF) * (share - 1) + (tint >> shift & 0xFF)) / share;
@@ -99,7 +99,8 @@ std::string PenAttributes(const DrawnShape& shape) {
 
 /// The legs of an arrow: a line, and the vertical one that continues it, if any. Lines
 /// along an axis cover whole pixels, so that they are sharp at the size of the screen and of one
-/// width at any other.
+/// width at any other. The vertical one ends on a whole pixel, as its box does, so that none shows
+/// past it.
 std::string LegsElement(const DrawnShape& first, const DrawnShape* second) {
     const auto across = [half = first.Width / 2.0](double units) {
         return std::round(units / UnitsPerPixel - half) + half;
@@ -110,7 +111,8 @@ std::string LegsElement(const DrawnShape& first, const DrawnShape* second) {
     std::string path = Point(along(first.X1), y) + " L";
     if (second) {
         const double x = across(second->X1);
-        path += Point(x, level ? y : along(first.Y2)) + " L" + Point(x, along(second->Y2));
+        const double end = std::round(along(second->Y2));
+        path += Point(x, level ? y : along(first.Y2)) + " L" + Point(x, end);
     } else {
         path += Point(along(first.X2), level ? y : along(first.Y2));
     }
