@@ -5,6 +5,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cerrno>
 #include <cstdio>
 #include <filesystem>
 #include <memory>
@@ -48,9 +49,10 @@ PictureEnd RunPictureProgram(std::string program, std::string path, std::string 
     const bool started =
         posix_spawn(&process, program.c_str(), &actions, nullptr, arguments, environ) == 0;
     posix_spawn_file_actions_destroy(&actions);
-    if (!started || waitpid(process, &status, 0) != process || !WIFEXITED(status)) {
-        return PictureEnd::NotDrawn;
+    pid_t ended = -1;
+    while (started && (ended = waitpid(process, &status, 0)) < 0 && errno == EINTR) {
     }
+    if (ended != process || !WIFEXITED(status)) return PictureEnd::NotDrawn;
     return static_cast<PictureEnd>(WEXITSTATUS(status));
 }
 
