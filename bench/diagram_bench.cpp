@@ -207,8 +207,8 @@ struct Operation {
     void (*Run)(benchmark::State& state, const Shape& shape, int boxes);
 };
 constexpr Operation operations[] = {
-    {"load", Loading},     {"compile", Compiling}, {"check", Checking},     {"save", Saving},
-    {"step", Stepping},    {"rest", Resting},      {"recover", Recovering}, {"script", Listing},
+    {"load", Loading},      {"compile", Compiling}, {"check", Checking},     {"save", Saving},
+    {"step", Stepping},     {"rest", Resting},      {"recover", Recovering}, {"script", Listing},
     {"findings", Advising}, {"search", Searching}};
 
 /// Under the names operation/shape/boxes.
