@@ -93,10 +93,10 @@ std::string ReportInWords(int number) {
     return text.empty() || !IsOutOfDate(number) ? text : "out of date: " + text;
 }
 
-int FailedBoxes() {
-    int failed = 0;
+std::vector<int> FailedBoxes() {
+    std::vector<int> failed;
     for (int i = 1; i <= LastBox(); ++i) {
-        failed += ReportOf(i).State == BoxRun::Failed && !IsOutOfDate(i) ? 1 : 0;
+        if (ReportOf(i).State == BoxRun::Failed && !IsOutOfDate(i)) failed.push_back(i);
     }
     return failed;
 }
@@ -107,7 +107,7 @@ std::string RunInWords() {
         const auto nth = std::min(linkReport.Sent, linkReport.Total);
         return "running box " + NumberText(nth) + " of " + NumberText(linkReport.Total);
     }
-    const int failed = FailedBoxes();
+    const auto failed = std::ssize(FailedBoxes());
     if (failed == 0) return "";
     return NumberText(failed) + (failed == 1 ? " box failed" : " boxes failed");
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "matlab_link/run_report.h"
 
@@ -21,8 +22,8 @@ std::string ReportInWords(int number);
 /// "2 boxes failed", "" when none did.
 std::string RunInWords();
 
-/// How many boxes failed in the last run and are still as they were then.
-int FailedBoxes();
+/// The boxes that failed in the last run and are still as they were then.
+std::vector<int> FailedBoxes();
 
 void ResetShownReports();
 

@@ -18,6 +18,7 @@
 #include "qt/desktop/icon_strip.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/frame/frame_view.h"
+#include "qt/frame/quick_field.h"
 #include "workbench/bar.h"
 #include "workbench/history.h"
 #include "workbench/outline.h"
@@ -30,6 +31,9 @@ namespace {
 constexpr int NumberRole = Qt::UserRole;
 constexpr int ShownRole = Qt::UserRole + 1;  ///< Of the value: what it shows
 constexpr int FaceSide = 24;
+constexpr int CurveWidth = 2 * FaceSide;
+constexpr int WidestText = 200;
+constexpr int TextColumn = 2;
 constexpr int ValueColumn = 5;
 
 QStringList Cells(const OutlineRow& row) {
@@ -47,14 +51,14 @@ QPixmap Curve(const std::vector<double>& points, const QColor& color, qreal rati
         if (std::isfinite(points[i])) curve.append({static_cast<double>(i), points[i]});
     }
     if (curve.size() < 2) return {};
-    QPixmap drawn(QSize(FaceSide * 2, FaceSide) * ratio);
+    QPixmap drawn(QSize(CurveWidth, FaceSide) * ratio);
     drawn.setDevicePixelRatio(ratio);
     drawn.fill(Qt::transparent);
     QPainter painter(&drawn);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(color, 1.5));
     const auto extent = curve.boundingRect();
-    const QRectF room(2, 3, FaceSide * 2 - 4, FaceSide - 6);
+    const QRectF room(2, 3, CurveWidth - 4, FaceSide - 6);
     for (auto& point : curve) {
         const double across = (point.x() - extent.left()) / extent.width();
         const double up = extent.height() > 0 ? (point.y() - extent.top()) / extent.height() : 0.5;
@@ -80,14 +84,17 @@ BoxesPanel::BoxesPanel(QWidget* parent) : QWidget(parent) {
     filter_ = new QLineEdit(this);
     filter_->setObjectName("filter");
     filter_->setAccessibleName("Show only boxes with this text");
-    filter_->setPlaceholderText("Show only boxes with ...");
+    ShowHint(filter_, "Show only boxes with ...");
     filter_->setClearButtonEnabled(true);
     boxes_ = new QTreeWidget(this);
     boxes_->setObjectName("boxes");
     boxes_->setAccessibleName("Boxes");
     boxes_->setHeaderLabels({"Box", "Type", "Text", "From", "To", "Last value"});
     boxes_->setAllColumnsShowFocus(true);
-    boxes_->setIconSize(QSize(FaceSide, FaceSide));
+    boxes_->setIconSize(QSize(CurveWidth, FaceSide));
+    // Values stand where a narrow panel shows them, and take no room before there are any.
+    boxes_->header()->moveSection(ValueColumn, TextColumn);
+    boxes_->setColumnHidden(ValueColumn, true);
     boxes_->header()->setSectionResizeMode(QHeaderView::Interactive);
     boxes_->setToolTip(
         "Enter shows the box, Shift+Enter its information, F2 changes it, Delete deletes it");
@@ -151,7 +158,9 @@ void BoxesPanel::List() {
     change_->setEnabled(Current() > 0);
     ShowValues();
     if (!first) return;
-    for (int i = 0; i < boxes_->columnCount(); ++i) boxes_->resizeColumnToContents(i);
+    for (int i = 0; i < ValueColumn; ++i) boxes_->resizeColumnToContents(i);
+    boxes_->setColumnWidth(TextColumn, qMin(boxes_->columnWidth(TextColumn), WidestText));
+    boxes_->setColumnWidth(ValueColumn, WidestText);
 }
 
 /// What the last run left: a failure, or the value and its curve; grey when it is out of date.
@@ -167,6 +176,7 @@ void BoxesPanel::ShowValues() {
 }
 
 void BoxesPanel::ShowValue(QTreeWidgetItem* item, int number, const QString& words) {
+    if (!words.isEmpty()) boxes_->setColumnHidden(ValueColumn, false);
     const auto& report = ReportOf(number);
     const bool old = IsOutOfDate(number);
     const auto group = old ? QPalette::Disabled : QPalette::Active;

@@ -80,8 +80,9 @@ void Tile(const QList<QMdiSubWindow*>& windows, const QRect& space) {
     }
 }
 
-/// Of a panel beside the worksheets, until the user moves its edge.
+/// Of the panels beside the worksheets, until the user moves their edges.
 constexpr int PanelWidth = 320;
+constexpr int BoxesWidth = 380;
 
 /// A worksheet's window; its document decides whether it closes.
 class WorksheetWindow : public QMdiSubWindow {
@@ -132,7 +133,7 @@ FrameView::FrameView() {
         beside->setCollapsible(beside->indexOf(part), false);
     }
     beside->setStretchFactor(1, 1);
-    beside->setSizes({PanelWidth, PanelWidth * 2, PanelWidth});
+    beside->setSizes({BoxesWidth, 2 * PanelWidth, PanelWidth});
     rows->addWidget(beside, 1);
     bar_->AddPanel("showScript", "Script", "F7", script_);
     bar_->AddPanel("showBoxes", "Boxes", "F8", boxes_);

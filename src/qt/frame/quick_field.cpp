@@ -19,7 +19,8 @@ constexpr int RowsShown = 12;
 constexpr int MostRows = 300;
 constexpr int FaceSide = 24;
 
-/// Some dark themes leave the colour of the hint at black.
+}  // namespace
+
 void ShowHint(QLineEdit* field, const QString& hint) {
     field->setPlaceholderText(hint);
     auto colors = field->palette();
@@ -29,8 +30,6 @@ void ShowHint(QLineEdit* field, const QString& hint) {
     colors.setColor(QPalette::PlaceholderText, faint);
     field->setPalette(colors);
 }
-
-}  // namespace
 
 QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
     setObjectName("quickPopup");
@@ -81,8 +80,11 @@ void QuickPopup::Find() {
         item->setSizeHint(QSize(0, FaceSide + 4));
         if (row.Picture > 0) item->setIcon(CellOnPaper(row.Picture, FaceSide, devicePixelRatioF()));
     }
+    if (rows_.empty() && !text_->text().isEmpty()) {
+        (new QListWidgetItem("Nothing fits", list_))->setFlags(Qt::NoItemFlags);
+    }
     list_->setCurrentRow(rows_.empty() ? -1 : 0);
-    list_->setVisible(!rows_.empty());
+    list_->setVisible(list_->count() > 0);
     list_->setFixedHeight(qMin(list_->count(), RowsShown) * (FaceSide + 4) + 4);
     adjustSize();
 }

@@ -11,6 +11,9 @@ class QListWidget;
 
 namespace quorvane {
 
+/// Shows a hint in a field as long as that is empty. Some dark themes would leave it black.
+void ShowHint(QLineEdit* field, const QString& hint);
+
 /// The small window in which something is looked for: a line to type into, and what fits below it.
 /// Enter or a click chooses, Escape leaves.
 class QuickPopup : public QFrame {

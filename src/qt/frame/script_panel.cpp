@@ -20,6 +20,7 @@
 #include "qt/sheet/sheet_marks.h"
 #include "workbench/history.h"
 #include "workbench/live_script.h"
+#include "workbench/run_report.h"
 
 namespace quorvane {
 
@@ -29,6 +30,12 @@ constexpr int BoxRole = Qt::UserRole;
 /// A finding takes about three lines; beyond the second number the list scrolls.
 constexpr int LinesOfFinding = 3;
 constexpr int MostLines = 10;
+
+/// Red that can be read on the ground of a list.
+QColor FailureInk(const QPalette& colors) {
+    const bool isDark = colors.color(QPalette::Base).lightness() < 128;
+    return isDark ? QColor(0xFF, 0x80, 0x80) : QColor(0xB0, 0x18, 0x24);
+}
 
 }  // namespace
 
@@ -45,6 +52,7 @@ ScriptPanel::ScriptPanel(QWidget* parent) : QWidget(parent) {
     findings_->setObjectName("findings");
     findings_->setAccessibleName("Findings");
     findings_->setWordWrap(true);
+    findings_->setSpacing(1);
     findings_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     script_ = new QPlainTextEdit(this);
     script_->setObjectName("script");
@@ -76,7 +84,9 @@ ScriptPanel::ScriptPanel(QWidget* parent) : QWidget(parent) {
 void ScriptPanel::Refresh() {
     if (!isVisible() || QGuiApplication::mouseButtons() != Qt::NoButton) return;
     const auto& live = ScriptOf(activeDocument);
-    if (document_ != activeDocument || changes_ != HistoryChanges()) {
+    const auto failed = FailedBoxes();
+    if (document_ != activeDocument || changes_ != HistoryChanges() || failed_ != failed) {
+        failed_ = failed;
         document_ = activeDocument;
         changes_ = HistoryChanges();
         const auto text = ToScreen(live.Text).replace("\r\n", "\n");
@@ -92,19 +102,25 @@ void ScriptPanel::Refresh() {
     LightLines();
 }
 
-/// What the run would ask, then what the check finds.
+void ScriptPanel::AddBox(int box, const std::string& text) {
+    const auto name = box > 0 ? ToScreen(BoxName(box) + ": ") : QString();
+    auto* item = new QListWidgetItem(name + ToScreen(text), findings_);
+    item->setData(BoxRole, box);
+}
+
+/// Where the last run failed, what the next would ask, and what the check finds.
 void ScriptPanel::ShowFindings() {
     findings_->clear();
     const auto& live = ScriptOf(document_);
+    for (const int box : failed_) {
+        if (BoxOrFree(box).BoxDocument != document_) continue;
+        AddBox(box, ReportInWords(box));
+        findings_->item(findings_->count() - 1)->setForeground(FailureInk(palette()));
+    }
     for (const auto& asked : live.Asked) {
         findings_->addItem("The run asks: " + ToScreen(asked).simplified());
     }
-    for (const auto& finding : live.Findings) {
-        auto text = ToScreen(InWords(finding));
-        if (finding.Box > 0) text.prepend(ToScreen(BoxName(finding.Box) + ": "));
-        auto* item = new QListWidgetItem(text, findings_);
-        item->setData(BoxRole, finding.Box);
-    }
+    for (const auto& finding : live.Findings) AddBox(finding.Box, InWords(finding));
     findings_->setVisible(findings_->count() > 0);
     const int lines = qMin(findings_->count() * LinesOfFinding, MostLines);
     findings_->setMaximumHeight(lines * findings_->fontMetrics().lineSpacing() + 8);

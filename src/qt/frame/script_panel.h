@@ -2,6 +2,8 @@
 #pragma once
 
 #include <QWidget>
+#include <string>
+#include <vector>
 
 class QLabel;
 class QListWidget;
@@ -11,8 +13,8 @@ class QPushButton;
 namespace quorvane {
 
 /// The panel "Script" beside the worksheets: the script of the active one as it stands, with what
-/// the run would ask and what the check finds above it. A click on a line, or on a finding, shows
-/// its box; the box under the mouse or with the focus lights its lines.
+/// the last run failed at, the next would ask and the check finds above it. A click on a line, or
+/// on a finding, shows its box; the box under the mouse or with the focus lights its lines.
 class ScriptPanel : public QWidget {
 public:
     explicit ScriptPanel(QWidget* parent);
@@ -26,6 +28,7 @@ protected:
 
 private:
     void ShowFindings();
+    void AddBox(int box, const std::string& text);
     void LightLines();
     int BoxOfLine(int line) const;
 
@@ -36,7 +39,8 @@ private:
     QPlainTextEdit* script_;
     int document_ = 0;  ///< The worksheet and the step that are shown
     int changes_ = -1;
-    int lit_ = 0;  ///< The box whose lines are lit
+    std::vector<int> failed_;  ///< The boxes at which the last run failed
+    int lit_ = 0;              ///< The box whose lines are lit
 };
 
 }  // namespace quorvane

@@ -9,6 +9,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QProxyStyle>
+#include <QToolTip>
 #include <utility>
 
 #include "commands/worksheet_events.h"
@@ -164,6 +165,14 @@ void BoxView::SetMarks(const std::string& finding) {
     setToolTip(lines.join('\n'));
     setAccessibleDescription(lines.join(". "));
     update();
+}
+
+/// The tool tip stands below the bubble.
+bool BoxView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip || toolTip().isEmpty()) return QWidget::event(event);
+    constexpr int apart = 4;
+    QToolTip::showText(mapToGlobal(QPoint(width(), height() + apart)), toolTip(), this);
+    return true;
 }
 
 void BoxView::paintEvent(QPaintEvent*) {
