@@ -8,6 +8,8 @@
 #include "compile/options.h"
 #include "compile/output.h"
 #include "compile/review.h"
+#include "compile/run_diagram.h"
+#include "compile/set_value.h"
 #include "diagram/worksheet.h"
 #include "files/settings.h"
 #include "generator/compile_document.h"
@@ -49,10 +51,14 @@ ExitCode CompileInto(std::string& output, ConsoleDesktop& console, const Options
     return lastRunEnd == RunEnd::Done ? RunFinished : RunBrokenOff;
 }
 
-/// Compiles the diagram and writes what comes of it.
+/// Compiles the diagram and writes what comes of it, or runs it.
 int Compile(ConsoleDesktop& console, const Options& options) {
     std::string why;
     if (!LoadDiagram(console, options.Diagrams[0], why)) return Refuse(why);
+    for (const auto& value : options.Values) {
+        if (why = SetValue(value); !why.empty()) return Refuse("--set " + value + ": " + why);
+    }
+    if (options.Run) return RunDiagram(console, options.Engine);
     std::string output;
     const auto code = CompileInto(output, console, options);
     const bool worthWriting = code == RunFinished || !output.empty();

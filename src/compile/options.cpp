@@ -23,6 +23,28 @@ void AddCompiling(CLI::App& app, Options& options) {
         ->option_text("NUMBER");
 }
 
+void AddRunning(CLI::App& app, Options& options) {
+    app.add_option("--set", options.Values,
+                   "Another value for a Constant Input or Keyboard Input box; repeatable")
+        ->allow_extra_args(false)
+        ->option_text("BOX=VALUE");
+    auto* run =
+        app.add_flag("--run", options.Run,
+                     "Run the diagram in an engine and print what it prints, exit 4 if a box fails")
+            ->excludes(app.get_option("--output"))
+            ->excludes(app.get_option("--mode"))
+            ->option_text(" ");
+    app.add_option("--engine", options.Engine.Command,
+                   "What starts the engine, such as \"ssh host octave-cli\"; Octave unless given")
+        ->needs(run)
+        ->option_text("COMMAND");
+    app.add_option("--start-limit", options.Engine.StartLimit,
+                   "Give the engine so long to become ready (60), 0 for as long as it takes")
+        ->needs(run)
+        ->check(CLI::Range(0, 1000000))
+        ->option_text("SECONDS");
+}
+
 CLI::Option* AddPicture(CLI::App& app, PictureOrder& order) {
     auto* picture =
         app.add_option("--picture", order.File,
@@ -47,7 +69,7 @@ void AddReviews(CLI::App& app, Options& options) {
                      "Don't compile: report what would go wrong in a run, exit 1 if anything")
             ->option_text(" ");
     auto* picture = AddPicture(app, options.Picture);
-    for (const char* const compiling : {"--output", "--answers", "--mode"}) {
+    for (const char* const compiling : {"--output", "--answers", "--mode", "--set", "--run"}) {
         for (auto* const review : {check, picture}) review->excludes(app.get_option(compiling));
     }
 }
@@ -61,6 +83,7 @@ std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
         ->required()
         ->option_text(" ");
     AddCompiling(app, options);
+    AddRunning(app, options);
     AddReviews(app, options);
     try {
         app.parse(argc, argv);

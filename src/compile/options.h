@@ -6,11 +6,19 @@
 #include <vector>
 
 #include "compile/picture.h"
+#include "compile/run_diagram.h"
 
 namespace quorvane {
 
 /// How the program ends. Of several diagrams the worst, which is the highest, counts.
-enum ExitCode { RunFinished = 0, RunBrokenOff = 1, NothingCompiled = 2, RunFailed = 3 };
+enum ExitCode {
+    RunFinished = 0,
+    RunBrokenOff = 1,
+    NothingCompiled = 2,
+    RunFailed = 3,
+    BoxFailed = 4,        ///< In the engine
+    EndedBySignal = 128,  ///< And the number of the signal
+};
 enum ReviewCode { NothingFound = 0, SomethingFound = 1 };
 
 /// What the command line asks for.
@@ -19,6 +27,9 @@ struct Options {
     std::string Output;                 ///< "" for standard output
     std::string AnswersFile;
     int Mode = 1;
+    std::vector<std::string> Values;  ///< As in "box1=0.5"
+    bool Run = false;
+    EngineChoice Engine;
     bool StartUnwired = false;
     bool Check = false;
     PictureOrder Picture;

@@ -10,7 +10,8 @@ namespace quorvane {
 constexpr std::size_t AnswerLimit = 8 << 20;
 
 /// What the engine tells the link in the middle of what a script prints: "\1", the token, a letter,
-/// ":", a text, "\1". A line end before it belongs to the mark, but not before a question.
+/// ":", a text, "\1", a line end. A line end before it belongs to the mark too, but not before a
+/// question.
 enum class MarkKind : char {
     Loops = 'l',      ///< The loop runs; the text is the number of the call
     Functions = 'h',  ///< The engine doesn't have our functions
@@ -42,6 +43,8 @@ std::optional<Mark> TakeMark(AnswerReader& reader);
 void InsertText(AnswerReader& reader, const std::string& text);
 /// Drops what came before Looked: it belongs to no script.
 void BeginAnswer(AnswerReader& reader);
+/// Counts a line end at the end as part of the answer: no mark has followed it for a while.
+void LookAtLineEnd(AnswerReader& reader);
 /// Counts all that came as part of the answer: no further mark is awaited.
 void LookAtAll(AnswerReader& reader);
 /// Cuts what is beyond the limit, as far as it was searched for marks.

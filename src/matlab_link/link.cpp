@@ -19,6 +19,8 @@
 
 namespace quorvane {
 
+LinkListener linkListener;
+
 namespace {
 
 constexpr int FileNotFound = 53;
@@ -38,13 +40,26 @@ struct EngineRow {
 };
 constexpr std::string_view octaveSetUp =
     "PS1('');PS2('');more off;warning('off','Octave:shadowed-function');"
-    "warning('off','backtrace');\n";
+    "warning('off','backtrace');sigterm_dumps_octave_core(false);"
+    "sighup_dumps_octave_core(false);\n";
 const EngineRow engineRows[] = {
     {"octave",
      true,
      {"--no-gui", "--quiet", "--no-init-file", "--no-history", "--eval", "format", "--persist"}},
     {"", false, {"-nodesktop", "-nosplash"}},
 };
+
+/// An engine that another program starts is named by the last word that names one.
+const EngineRow& RowOf(const std::string& program, const std::vector<std::string>& words) {
+    auto name = FileNameOf(program);
+    for (const auto& word : words) {
+        const auto last = FileNameOf(word);
+        if (last.starts_with("octave") || last.starts_with("matlab")) name = last;
+    }
+    const auto* row = std::begin(engineRows);
+    while (!name.starts_with(row->Name)) ++row;
+    return *row;
+}
 
 /// The engine that was started last and what is known of it.
 struct Engine {
@@ -72,10 +87,12 @@ struct Job {
     std::int64_t LeftAt = Never;     ///< When it was left uninterrupted: the engine is ending
     int Breaks = 0;                  ///< How often the engine was interrupted
     bool Sent = false;               ///< Before, the loop has to begin
+    bool Begun = false;              ///< What comes now is its answer
     bool Told = false;               ///< Its answer is complete
     bool Ended = false;
     std::int16_t Failed = NoBox;  ///< The box at fault
     bool Refused = false;         ///< It couldn't be parsed
+    bool IsOpen = false;          ///< A block in it is never closed, which is told elsewhere
 };
 
 /// Marks the engine as busy, for as long as this lives.
@@ -114,7 +131,8 @@ void Request(char kind, const std::string& numbers, const std::string& text) {
 /// What makes our functions known. An engine without a folder takes them as one text.
 std::string Definitions() {
     const auto folder = engine.Folder.Path();
-    return folder.empty() ? EngineDefinitions(engine.Token) : "addpath(" + Quoted(folder) + ");\n";
+    if (!folder.empty()) return "addpath(" + Quoted(folder) + ");\n";
+    return EngineDefinitions(engine.Token) + "try," + engine.Token + "figures();catch,end\n";
 }
 
 /// Has the loop tell that it runs, by a mark with the number of this call. At the engine's own
@@ -125,7 +143,7 @@ void CallLoop() {
     const auto folder = engine.Folder.Path();
     const auto size = std::to_string(octaveSetUp.size() + Definitions().size());
     const auto fetch = "builtin('fprintf',1,'\\001" + engine.Token +
-                       "h:\\001');builtin('fflush',1);builtin('eval',builtin('fread',0," + size +
+                       "h:\\001\\n');builtin('fflush',1);builtin('eval',builtin('fread',0," + size +
                        ",'char=>char')');";
     // The second line end is for Octave, which looks at the character after the line.
     desktop->WriteEngine("\ntry," + call + "catch," +
@@ -179,9 +197,17 @@ void Ask(Job& job, const Mark& mark) {
     job.SentAt = desktop->Milliseconds();
 }
 
+/// A listener gets what has been printed; nothing of it is kept then.
+void PassOn(Job& job) {
+    if (!linkListener.Printed || !job.Begun || job.Told) return;
+    const auto text = AnswerOf(job.Reader);
+    if (!text.empty()) linkListener.Printed(text);
+}
+
 /// The answer is complete; what still comes belongs to no script.
 void TakeAnswer(Job& job) {
     if (job.Told) return;
+    PassOn(job);
     engine.Answer = AnswerOf(job.Reader);
     job.Told = true;
 }
@@ -218,10 +244,13 @@ void ReachEnd(Job& job) { job.StoppedAt == Never ? EndJob(job) : TakeAnswer(job)
 /// The engine's complaint stands in the answer where the script was left.
 void Complain(Job& job, const std::string& told) {
     const auto fault = ReadFault(told, *job.Boxes);
-    InsertText(job.Reader, fault.Told);
-    ReportFailure(fault.Box, fault.Message.substr(0, fault.Message.find('\n')));
-    job.Failed = fault.Box;
     job.Refused = fault.Refused;
+    if (job.IsOpen && fault.Refused) return;
+    job.Failed = fault.Box;
+    ReportFailure(fault.Box, fault.Message.substr(0, fault.Message.find('\n')));
+    if (!linkListener.Failed) return InsertText(job.Reader, fault.Told);
+    PassOn(job);
+    linkListener.Failed(fault.Box, fault.Message);
 }
 
 void FollowMark(Job& job, const Mark& mark) {
@@ -235,8 +264,9 @@ void FollowMark(Job& job, const Mark& mark) {
         case MarkKind::Fault: return Complain(job, mark.Text);
         case MarkKind::Value: return ReportValue(mark.Text);
         case MarkKind::Begin:
-            if (mark.Text == job.Id) BeginAnswer(job.Reader);
-            return;
+            if (mark.Text != job.Id) return;
+            job.Begun = true;
+            return BeginAnswer(job.Reader);
         case MarkKind::End:
             if (mark.Text == job.Id) ReachEnd(job);
             return;
@@ -250,8 +280,12 @@ void EndWithEngine(Job& job, const EngineNews& news) {
     const std::string told =
         (news.Crashed ? "Matlab has been ended by signal " : "Matlab has ended with exit code ") +
         std::to_string(news.Code) + ".";
-    engine.Answer += told + "\n";
     if (!job.Boxes->empty()) ReportFailure(job.Failed = job.Boxes->back(), told);
+    if (!linkListener.Failed || job.Failed == NoBox) {
+        engine.Answer += told + "\n";
+    } else {
+        linkListener.Failed(job.Failed, told);
+    }
 }
 
 void BreakOff(Job& job) {
@@ -288,15 +322,18 @@ void WaitForEnd(Job& job) {
         }
         if (job.Ended) break;
         if (news.Ended) return EndWithEngine(job, news);
+        if (linkListener.Printed && news.Bytes.empty()) LookAtLineEnd(job.Reader);
+        PassOn(job);
         LimitAnswer(job.Reader);
         if (news.Escape) BreakOff(job);
         LookAtClock(job);
     }
 }
 
-/// False when the engine couldn't parse the script.
-bool RunScript(const std::string& script, const LineBoxes& boxes) {
+/// False when the engine couldn't parse the script. A script that `isOpen` is expected to be such.
+bool RunScript(const std::string& script, const LineBoxes& boxes, bool isOpen = false) {
     Job job{.Id = std::to_string(++engine.Script), .Script = script, .Boxes = &boxes};
+    job.IsOpen = isOpen;
     job.Reader.Token = engine.Token;
     job.SentAt = desktop->Milliseconds();
     const BusyScope busy;
@@ -310,19 +347,20 @@ bool RunScript(const std::string& script, const LineBoxes& boxes) {
 
 }  // namespace
 
-void StartLink(const std::string& program) {
-    const auto name = FileNameOf(program);
-    const auto* row = std::begin(engineRows);
-    while (!name.starts_with(row->Name)) ++row;
+void StartLink(const std::string& program, std::vector<std::string> words) {
+    const auto& row = RowOf(program, words);
     Engine fresh;
     fresh.Token = DrawToken();
-    if (!row->IsOctave) fresh.Folder.Make(fresh.Token);
-    desktop->StartEngine(program, row->Arguments);
+    if (!row.IsOctave) fresh.Folder.Make(fresh.Token);
+    words.insert(words.end(), row.Arguments.begin(), row.Arguments.end());
+    desktop->StartEngine(program, words);
     engine = std::move(fresh);
     RunScript("", {});
     engine.Answer.clear();
     if (!Answers()) throw RuntimeError(FileNotFound);
 }
+
+bool LinkIsBusy() { return engine.Busy; }
 
 void LinkOpen() {
     if (!Answers() && engine.Answer.empty()) throw RuntimeError(NoApplicationAnswered);
@@ -356,7 +394,7 @@ std::string LinkFinish(bool come) {
     const std::string neverClosed = "The block that begins here is never closed.";
     const auto box = boxes[LineAt(rest, FindOpenBlock(rest))];
     auto told = NameOf(box) + neverClosed + "\n";
-    if (RunScript(rest, boxes)) return told + LinkRequest();
+    if (RunScript(rest, boxes, true)) return told + LinkRequest();
     LinkRequest();
     ReportRunning(boxes);
     ReportFailure(box, neverClosed);
@@ -368,6 +406,9 @@ void LookAfterFigures() {
     if (engine.HasFigures && engine.Loops && !engine.Busy && Answers()) Request('d', "", "");
 }
 
-void ResetLink() { engine = {}; }
+void ResetLink() {
+    engine = {};
+    linkListener = {};
+}
 
 }  // namespace quorvane

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include "generator/link_door.h"
 
@@ -14,9 +17,20 @@ namespace quorvane {
 /// that doesn't respond to that is killed after five seconds. Meanwhile frmTextResults.lblState
 /// says what the link is waiting for. What a run leaves at its boxes stands in linkReport.
 
-/// Starts a program in place of the running one and waits until it answers. Error 53 when it can't
-/// be started or ends at once.
-void StartLink(const std::string& program);
+/// What a program without windows is told while a script runs. What it takes is left out of the
+/// answer.
+struct LinkListener {
+    std::function<void(const std::string& text)> Printed;  ///< As it comes, in pieces of any size
+    std::function<void(std::int16_t box, const std::string& message)> Failed;
+};
+extern LinkListener linkListener;
+
+/// Starts a program in place of the running one and waits until it answers. `words` are arguments
+/// that come before those of the engine, for a program that starts one elsewhere. Error 53 when it
+/// can't be started or ends at once.
+void StartLink(const std::string& program, std::vector<std::string> words = {});
+/// True while a script runs.
+bool LinkIsBusy();
 
 /// Error 282 when nothing answers. What an engine printed before it ended can still be fetched.
 void LinkOpen();

@@ -151,7 +151,7 @@ private:
             } else if (inside.size() > 2) {
                 spoken += inside.substr(2);
             }
-            spoken += "\1";
+            spoken += "\1\n";
             at = end + 1;
         }
         return spoken;
