@@ -12,7 +12,8 @@ namespace {
 constexpr auto Diagram =
     "3\r\nSin~\r\n0~-1~-1~2~0~0~255~0~0~0~0~0~0\r\n300~-150~\r\n"
     "Sin~\r\n0~1~-1~0~0~0~0~0~0~0~0~0~0\r\n300~1200~\r\n"
-    "Comment~a<b&c;;\xC3\xA9 \xE9 \x01\xEF\xBF\xBF\r\n-1~-1~-1~-1~0~-1~0~-1~0~-1~0~-1~0\r\n1207~308~\r\n\r\n";
+    "Comment~a<b&c;;\xC3\xA9 \xE9 "
+    "\x01\xEF\xBF\xBF\r\n-1~-1~-1~-1~0~-1~0~-1~0~-1~0~-1~0\r\n1207~308~\r\n\r\n";
 
 /// Takes what stands from `begin` up to `end` out of the text, at every place.
 std::string Without(std::string text, const std::string& begin, const std::string& end) {
