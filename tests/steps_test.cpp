@@ -73,7 +73,7 @@ private:
                  }
                  return numbers;
              })},
-            {"BoxIconKey", Seen([](A a) { return BoxIconKey(a[0]); })},
+            {"BoxIconKey", Seen([](A a) { return std::string(BoxIconKey(a[0])); })},
             {"BoxTableFill", Seen([](A) { return BoxTableFill(); })},
             {"FindEntrySlot", Seen([](A a) { return FindEntrySlot(a[0], a[1]); })},
             {"SelectedBoxes", Seen([](A) { return Selected(); })},

@@ -3,7 +3,8 @@
 
 #include <algorithm>
 #include <iterator>
-#include <vector>
+
+#include "catalogue/key_table.h"
 
 namespace quorvane {
 
@@ -107,29 +108,17 @@ bool HasKey(const BoxCommand& row, std::string_view key) {
     return std::find(row.ToolboxKeys.begin(), row.ToolboxKeys.end(), key) != row.ToolboxKeys.end();
 }
 
-struct KeyCell {
-    std::string_view Key;
-    int Cell = 0;
-};
-
-/// The order of the keys. Most of them differ in length, which is quicker to compare.
-bool ComesBefore(std::string_view a, std::string_view b) {
-    return a.size() != b.size() ? a.size() < b.size() : a < b;
-}
-
-/// The pictures of the commands, in the order of their keys.
-std::vector<KeyCell> MakeKeyCells() {
-    std::vector<KeyCell> byKey;
+/// The pictures of the commands.
+KeyTable<int> MakeCells() {
+    KeyTable<int> table;
     for (const auto& row : rows) {
         if (row.Cell == 0) continue;
         for (const auto key : row.ToolboxKeys) {
-            if (!key.empty()) byKey.push_back({key, row.Cell});
+            if (!key.empty()) table.Add(key, row.Cell);
         }
-        if (row.Icon == Type && !row.BoxType.empty()) byKey.push_back({row.BoxType, row.Cell});
+        if (row.Icon == Type && !row.BoxType.empty()) table.Add(row.BoxType, row.Cell);
     }
-    std::sort(byKey.begin(), byKey.end(),
-              [](const KeyCell& a, const KeyCell& b) { return ComesBefore(a.Key, b.Key); });
-    return byKey;
+    return table;
 }
 
 template <class Test>
@@ -161,12 +150,9 @@ std::string_view ToolboxCommand(std::string_view key) {
 }
 
 int CommandCell(std::string_view key) {
-    // Loading a diagram asks for each box.
-    static const auto cells = MakeKeyCells();
-    const auto found = std::lower_bound(
-        cells.begin(), cells.end(), key,
-        [](const KeyCell& a, std::string_view b) { return ComesBefore(a.Key, b); });
-    return found != cells.end() && found->Key == key ? found->Cell : 0;
+    static const auto cells = MakeCells();
+    const auto* cell = cells.Find(key);
+    return cell ? *cell : 0;
 }
 
 }  // namespace quorvane

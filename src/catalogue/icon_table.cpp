@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "catalogue/icon_table.h"
 
-#include <algorithm>
-#include <array>
-
 #include "catalogue/box_commands.h"
+#include "catalogue/key_table.h"
 
 namespace quorvane {
 
@@ -164,12 +162,10 @@ constexpr IconRow rows[] = {
     {144, "wavrite"},
 };
 
-/// The rows by their keys: loading a diagram looks up each box.
-constexpr auto byKey = [] {
-    auto sorted = std::to_array(rows);
-    std::sort(sorted.begin(), sorted.end(),
-              [](const IconRow& a, const IconRow& b) { return a.Key < b.Key; });
-    return sorted;
+constexpr auto cells = [] {
+    KeyTable<int> table;
+    for (const auto& row : rows) table.Add(row.Key, row.Cell);
+    return table;
 }();
 
 }  // namespace
@@ -177,10 +173,7 @@ constexpr auto byKey = [] {
 const std::span<const IconRow> iconTable = rows;
 
 int IconCell(std::string_view key) {
-    const auto* row =
-        std::lower_bound(byKey.begin(), byKey.end(), key,
-                         [](const IconRow& a, std::string_view b) { return a.Key < b; });
-    if (row != byKey.end() && row->Key == key) return row->Cell;
+    if (const auto* own = cells.Find(key)) return *own;
     const int cell = CommandCell(key);
     return cell != 0 ? cell : FallbackCell;
 }

@@ -114,9 +114,9 @@ void AddEntry(std::string& entries, char digit) {
 }
 
 /// The entries that a text of a row writes.
-void AddHoles(std::string& entries, std::string_view text) {
-    for (auto at = text.find("{in"); at != std::string_view::npos; at = text.find("{in", at + 1)) {
-        AddEntry(entries, text[at + 3]);
+void AddHoles(std::string& entries, const RowText& text) {
+    for (const auto& part : text.Parts()) {
+        if (part.Behind == Hole::Entry) AddEntry(entries, static_cast<char>('0' + part.Entry));
     }
 }
 
@@ -187,7 +187,9 @@ std::string_view MissingInText(const Box& box) {
     if (type.ends_with("Make Input") && !IsMadeByText(box)) return "";
     if (const auto* row = Find(textsOfTypes, type)) return row->Fault;
     const auto* row = FindEmissionRow(type);
-    const bool named = row && row->Head.find("{lcvalue}(") != std::string_view::npos;
+    const auto isNamed = [](const auto& part) { return part.Behind == Hole::LowerValue; };
+    const auto parts = row ? row->Head.Parts() : std::span<const RowText::Part>();
+    const bool named = std::any_of(parts.begin(), parts.end(), isNamed);
     return named ? "the name of its function" : "";
 }
 

@@ -1,12 +1,17 @@
 // SPDX-License-Identifier: MIT
 #include "diagram/arrows.h"
 
+#include <algorithm>
+
 #include "diagram/box_table.h"
 #include "platform/numbers.h"
 
 namespace quorvane {
 
 namespace {
+
+/// Two legs and a head
+constexpr std::size_t ShapesOfArrow = 3;
 
 /// Heads are drawn with this value, which is part of their shape.
 constexpr double Pi = 3.14;
@@ -93,6 +98,7 @@ int FindEntrySlot(int source, int destination) {
 
 void AddArrows(std::vector<DrawnShape>& shapes, int document) {
     const auto& window = DocumentWindow(document);
+    shapes.reserve(static_cast<std::size_t>(std::max<int>(NextBox, 0)) * ShapesOfArrow);
     for (int i = 1; i <= NextBox; ++i) {
         const Box& box = BoxOrFree(i);
         if (box.BoxDocument != document) continue;

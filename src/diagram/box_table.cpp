@@ -19,19 +19,16 @@ const Box& BoxOrFree(int number) {
     return number >= 0 && number <= MaxBoxes ? Boxes[number] : free;
 }
 
-std::string BoxIconKey(int number) {
+std::string_view BoxIconKey(int number) {
     const Box& box = Boxes[number];
-    std::string key;
-    if (box.BoxType == "Plot Output") {
-        const auto end = box.BoxText.find(';');
-        if (end != std::string::npos) key = box.BoxText.substr(0, end);
-    } else if (box.BoxType == "Matrix Manipulation" && box.BoxText.starts_with("Diag")) {
-        key = "Diag";
-    } else {
-        key = box.BoxType;
+    const std::string_view type = box.BoxType, text = box.BoxText;
+    if (text == "Subroutine") return text;
+    if (type == "Plot Output") {
+        const auto end = text.find(';');
+        return end == std::string_view::npos ? std::string_view() : text.substr(0, end);
     }
-    if (box.BoxText == "Subroutine") key = "Subroutine";
-    return key;
+    if (type == "Matrix Manipulation" && text.starts_with("Diag")) return "Diag";
+    return type;
 }
 
 std::string BoxName(int number) {

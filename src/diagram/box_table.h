@@ -59,12 +59,13 @@ const Box& BoxOrFree(int number);
 /// The key under which the icon table holds the box's picture: the plot kind of a "Plot Output",
 /// "Diag" for a diagonal "Matrix Manipulation", else the type; "Subroutine" for a text that says
 /// so.
-std::string BoxIconKey(int number);
+std::string_view BoxIconKey(int number);
 
 /// True for a box that the generator has emitted in this run.
 inline bool IsDone(const Box& box) {
-    // A view is compared by its length first, and a run asks this of every box in the front.
-    return std::string_view(box.BoxMark) == "OK";
+    // A run asks this of every box in the front, time and again.
+    const auto& mark = box.BoxMark;
+    return mark.size() == 2 && mark[0] == 'O' && mark[1] == 'K';
 }
 
 /// "box" and the number, the script variable of a box.

@@ -50,9 +50,9 @@ struct Fields {
     std::string_view Rest;
 
     std::string_view Next() {
-        const auto end = FindFieldEnd(Rest);
-        const auto field = Rest.substr(0, end - 1);
-        Rest = end <= Rest.size() ? Rest.substr(end) : std::string_view();
+        const auto* const end = std::find(Rest.begin(), Rest.end(), '~');
+        const std::string_view field(Rest.begin(), end);
+        Rest.remove_prefix(std::min(field.size() + 1, Rest.size()));
         return field;
     }
 };

@@ -21,6 +21,9 @@ namespace {
 
 using namespace std::string_view_literals;
 
+/// Most scripts then need no second allocation.
+constexpr std::size_t UsualBytesOfBox = 32;
+
 constexpr std::string_view IndentStep = "   ";
 
 bool AllEntriesAre(const Box& box, std::int16_t value) {
@@ -189,6 +192,7 @@ std::string CompileDocument(std::int16_t mode, const std::string& documentTag) {
     Run run;
     run.Mode = mode;
     run.Document = TextToInt16(documentTag);
+    run.scriptText.reserve(static_cast<std::size_t>(std::max<int>(NextBox, 0)) * UsualBytesOfBox);
     lastRunEnd = RunEnd::None;
     SetPointerAll(PointerHourglass);
     try {

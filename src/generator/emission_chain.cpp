@@ -2,9 +2,9 @@
 #include "generator/emission_chain.h"
 
 #include <algorithm>
-#include <unordered_map>
 
 #include "catalogue/box_commands.h"
+#include "catalogue/key_table.h"
 #include "generator/box_writers.h"
 #include "generator/control_flow.h"
 #include "platform/numbers.h"
@@ -147,29 +147,25 @@ bool Contains(const std::vector<std::string_view>& names, std::string_view name)
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Appends what a hole of a row's text stands for.
-void FillHole(std::string& script, std::string_view hole, int number) {
+/// Appends what a hole stands for.
+void FillHole(std::string& script, const RowText::Part& part, int number) {
     const Box& box = Boxes[number];
-    if (hole == "id") {
-        AppendNumber(script, number);
-    } else if (hole.starts_with("in")) {
-        AppendNumber(script, box.BoxIn[hole.back() - '0']);
-    } else {
-        const auto& word = hole.ends_with("value") ? box.BoxText : box.BoxType;
-        script += hole.starts_with("lc") ? LowerCase(word) : word;
+    switch (part.Behind) {
+        case Hole::Number: return AppendNumber(script, number);
+        case Hole::Entry: return AppendNumber(script, box.BoxIn[part.Entry]);
+        case Hole::Value: script += box.BoxText; break;
+        case Hole::Type: script += box.BoxType; break;
+        case Hole::LowerValue: script += LowerCase(box.BoxText); break;
+        case Hole::LowerType: script += LowerCase(box.BoxType); break;
+        case Hole::None: break;
     }
 }
 
 /// Appends a text of a row with its holes filled.
-void Fill(Run& run, std::string_view text, int number) {
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] != '{') {
-            run.scriptText += text[i];
-            continue;
-        }
-        const auto end = text.find('}', i);
-        FillHole(run.scriptText, text.substr(i + 1, end - i - 1), number);
-        i = end;
+void Fill(Run& run, const RowText& text, int number) {
+    for (const auto& part : text.Parts()) {
+        run.scriptText += part.Literal;
+        FillHole(run.scriptText, part, number);
     }
 }
 
@@ -216,14 +212,14 @@ const EmissionRow* FindEmissionRow(std::string_view type) {
     // the chain and are asked in turn.
     static const auto plainRows = PlainRows();
     static const auto byKey = [] {
-        std::unordered_map<std::string_view, const EmissionRow*> rows;
-        for (const auto& row : plainRows) rows.emplace(row.Keys.front(), &row);
+        KeyTable<const EmissionRow*> rows;
+        for (const auto& row : plainRows) rows.Add(row.Keys.front(), &row);
         for (const auto& row : emissionChain) {
-            for (const auto key : row.Keys) rows.emplace(key, &row);
+            for (const auto key : row.Keys) rows.Add(key, &row);
         }
         return rows;
     }();
-    if (const auto found = byKey.find(type); found != byKey.end()) return found->second;
+    if (const auto* found = byKey.Find(type)) return *found;
     for (const auto& row : emissionChain) {
         if (row.Knows && row.Knows(type)) return &row;
     }
@@ -239,7 +235,7 @@ void EmitBox(Run& run, int box, int slot) {
     } else {
         WriteTexts(run, *row, box);
     }
-    Boxes[box].BoxMark = "OK";
+    Boxes[box].BoxMark.assign("OK", 2);
 }
 
 }  // namespace quorvane

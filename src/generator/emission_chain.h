@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "generator/row_text.h"
 #include "generator/run.h"
 
 namespace quorvane {
@@ -19,7 +20,7 @@ enum class For { All, Types, OtherTypes, Texts };
 struct Piece {
     /// Digits of the entries that must hold an arrow for the piece to be written, "" for none.
     std::string_view Wired;
-    std::string_view Text;
+    RowText Text;
     For Whom = For::All;
     std::vector<std::string_view> Names = {};
 };
@@ -28,14 +29,13 @@ struct Piece {
 bool IsFor(const Piece& piece, const Box& box);
 
 /// A row of the chain: the types it writes and how. A row without a writer writes Head, the pieces
-/// that apply and Close, and a line end. Holes of the texts: {id}, {in1} to {in3}, {value} the
-/// box's text, {type}, and {lctype} and {lcvalue} in lower case.
+/// that apply and Close, and a line end.
 struct EmissionRow {
     std::vector<std::string_view> Keys;
     Gate Opens = Gate::None;
-    std::string_view Head = "";
+    RowText Head = "";
     std::vector<Piece> Pieces = {};
-    std::string_view Close = "";
+    RowText Close = "";
     /// Writes the box, which the walk has met in slot `slot`, in place of the texts; false leaves
     /// it unmarked.
     bool (*Write)(Run& run, int box, int slot) = nullptr;

@@ -133,13 +133,12 @@ int FreeFile() {
 void OpenForInput(int number, const std::string& path) {
     auto& element = Element(number);
     if (element) throw RuntimeError(55);
-    const auto resolved = Resolved(path);
     std::error_code error;
-    const auto status = fs::status(resolved, error);
+    const auto status = fs::status(path, error);
     if (!fs::exists(status)) throw RuntimeError(53);
     if (!fs::is_regular_file(status)) throw RuntimeError(75);
     auto file = std::make_unique<OpenFile>();
-    file->Source.reset(std::fopen(resolved.string().c_str(), "rb"));
+    file->Source.reset(std::fopen(path.c_str(), "rb"));
     if (!file->Source) throw RuntimeError(75);
     std::setvbuf(file->Source.get(), nullptr, _IONBF, 0);
     element = std::move(file);
@@ -164,24 +163,33 @@ bool EndOfFile(int number) { return !Fill(Opened(number)); }
 
 namespace {
 
-/// Reads up to and including one of `ends`; CR LF counts as one.
-std::string_view ReadUpTo(int number, const char* ends) {
+/// What is in the buffer up to the end of a line or, for a field, to a comma.
+std::string_view PartInBuffer(const OpenFile& file, bool isField) {
+    std::string_view part(file.Buffer.data() + file.Next, file.Filled - file.Next);
+    part = part.substr(0, part.find('\n'));
+    part = part.substr(0, part.find('\r'));
+    return isField ? part.substr(0, part.find(',')) : part;
+}
+
+/// Reads up to and including the end of a line or field; CR LF counts as one. What lies in the
+/// buffer as a whole isn't copied.
+std::string_view ReadUpTo(int number, bool isField) {
     auto& file = Opened(number);
     if (!Fill(file)) throw RuntimeError(62);
     currentLine.clear();
     file.EndedAtComma = false;
     while (Fill(file)) {
-        const std::string_view rest(file.Buffer.data() + file.Next, file.Filled - file.Next);
-        const auto end = rest.find_first_of(ends);
-        const auto part = rest.substr(0, end);
+        const auto part = PartInBuffer(file, isField);
         if (currentLine.size() + part.size() > MaxLineLength) throw RuntimeError(14);
-        currentLine += part;
         file.Next += part.size();
-        if (end == std::string_view::npos) continue;
-        const bool carriageReturn = rest[end] == '\r';
-        file.EndedAtComma = rest[end] == ',';
-        ++file.Next;
-        if (carriageReturn && Fill(file) && file.Buffer[file.Next] == '\n') ++file.Next;
+        const auto left = file.Filled - file.Next;
+        const bool isWhole = left > 1 && currentLine.empty();
+        if (!isWhole) currentLine += part;
+        if (left == 0) continue;
+        const char ended = file.Buffer[file.Next++];
+        file.EndedAtComma = ended == ',';
+        if (ended == '\r' && Fill(file) && file.Buffer[file.Next] == '\n') ++file.Next;
+        if (isWhole) return part;
         break;
     }
     return currentLine;
@@ -189,9 +197,9 @@ std::string_view ReadUpTo(int number, const char* ends) {
 
 }  // namespace
 
-std::string_view LineInput(int number) { return ReadUpTo(number, "\r\n"); }
+std::string_view LineInput(int number) { return ReadUpTo(number, false); }
 
-std::string_view InputField(int number) { return ReadUpTo(number, "\r\n,"); }
+std::string_view InputField(int number) { return ReadUpTo(number, true); }
 
 bool LineGoesOn(int number) { return Opened(number).EndedAtComma; }
 

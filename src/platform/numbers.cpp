@@ -53,11 +53,20 @@ Integer Rounded(double value) {
     return static_cast<Integer>(whole);
 }
 
+/// A diagram is made of short whole numbers: those are read digit by digit.
 template <class Integer>
 Integer TextToInteger(std::string_view text) {
-    Integer value = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc() && result.ptr == text.data() + text.size()) return value;
+    const bool isNegative = text.starts_with('-');
+    const auto digits = text.substr(isNegative ? 1 : 0);
+    int value = 0;
+    std::size_t read = 0;
+    while (read < digits.size() && read < std::numeric_limits<Integer>::digits10 &&
+           digits[read] >= '0' && digits[read] <= '9') {
+        value = value * 10 + (digits[read++] - '0');
+    }
+    if (read > 0 && read == digits.size()) {
+        return static_cast<Integer>(isNegative ? -value : value);
+    }
     return Rounded<Integer>(TextToNumber(text));
 }
 
@@ -96,8 +105,16 @@ std::int32_t TextToInt32(std::string_view text) { return TextToInteger<std::int3
 
 void AppendNumber(std::string& text, std::int64_t number) {
     char digits[24];
-    const auto result = std::to_chars(digits, digits + sizeof digits, number);
-    text += std::string_view(digits, result.ptr);
+    char* const end = digits + sizeof digits;
+    char* at = end;
+    auto rest =
+        number < 0 ? 0 - static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number);
+    do {
+        *--at = static_cast<char>('0' + rest % 10);
+        rest /= 10;
+    } while (rest > 0);
+    if (number < 0) *--at = '-';
+    text.append(at, static_cast<std::size_t>(end - at));
 }
 
 std::string NumberText(std::int64_t number) {
