@@ -13,8 +13,6 @@ namespace quorvane {
 
 namespace {
 
-bool IsNameLetter(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
-
 /// Gathers the names that the texts of the boxes mention.
 void FindWords(Check& check) {
     for (const int box : check.Own) {

@@ -2,8 +2,10 @@
 #include "compile/options.h"
 
 #include <CLI/CLI.hpp>
+#include <set>
 
 #include "compile/output.h"
+#include "platform/numbers.h"
 #include "quorvane/version.h"
 
 namespace quorvane {
@@ -48,7 +50,7 @@ void AddRunning(CLI::App& app, Options& options) {
 CLI::Option* AddPicture(CLI::App& app, PictureOrder& order) {
     auto* picture =
         app.add_option("--picture", order.File,
-                       "Don't compile: draw the diagram into this file, .svg, .pdf or .png")
+                       "Draw the diagram into this file, .svg, .pdf or .png; DIR/ draws several")
             ->option_text("FILE");
     app.add_flag("--paper", order.Paper, "Draw dark arrows on white, for print")
         ->option_text(" ")
@@ -64,14 +66,62 @@ CLI::Option* AddPicture(CLI::App& app, PictureOrder& order) {
 }
 
 void AddReviews(CLI::App& app, Options& options) {
-    auto* check =
-        app.add_flag("--check", options.Check,
-                     "Don't compile: report what would go wrong in a run, exit 1 if anything")
-            ->option_text(" ");
+    auto* check = app.add_flag("--check", options.Check,
+                               "Report what would go wrong in a run, exit 1 if anything")
+                      ->option_text(" ");
     auto* picture = AddPicture(app, options.Picture);
+    auto* describe =
+        app.add_flag("--describe", options.Describe, "List the boxes in lines that can be compared")
+            ->option_text(" ");
+    auto* diff = app.add_flag("--diff", options.Diff,
+                              "Tell what has changed from the first diagram to the second, exit 1 "
+                              "if anything")
+                     ->option_text(" ");
+    auto* json = app.add_flag("--json", options.Json, "Print JSON, with --check or --describe")
+                     ->option_text(" ");
     for (const char* const compiling : {"--output", "--answers", "--mode", "--set", "--run"}) {
-        for (auto* const review : {check, picture}) review->excludes(app.get_option(compiling));
+        for (auto* const review : {check, picture, describe, diff}) {
+            review->excludes(app.get_option(compiling));
+        }
     }
+    describe->excludes(check)->excludes(picture);
+    diff->excludes(check)->excludes(describe)->excludes(json);
+}
+
+std::string PictureContradiction(const Options& options) {
+    if (options.Diff || options.Diagrams.size() == 1) {
+        return Complaint(PictureOf(options.Picture, options.Diagrams[0]));
+    }
+    if (options.Picture.File.empty()) return "";
+    if (!options.Picture.File.ends_with('/')) {
+        return options.Picture.File +
+               ": several diagrams are drawn into a folder: end its name with \"/\"";
+    }
+    std::set<std::string> files;
+    for (const auto& diagram : options.Diagrams) {
+        const auto file = PictureOf(options.Picture, diagram).File;
+        if (!files.insert(file).second) {
+            return diagram + ": another diagram would be drawn into " + file +
+                   " too: draw it into another folder";
+        }
+    }
+    return Complaint(PictureOf(options.Picture, options.Diagrams[0]));
+}
+
+/// What is wrong with options that are right each for itself; "" for nothing.
+std::string Contradiction(const Options& options) {
+    const auto count = options.Diagrams.size();
+    if (options.Diff && count != 2) {
+        return "--diff compares two diagrams, the older one first: give two files, not " +
+               NumberText(static_cast<std::int64_t>(count));
+    }
+    if (options.Json && !options.Check && !options.Describe) {
+        return "--json goes with --check or --describe";
+    }
+    if (count > 1 && !options.IsReview()) {
+        return options.Diagrams[1] + ": only one diagram can be compiled at a time";
+    }
+    return PictureContradiction(options);
 }
 
 }  // namespace
@@ -92,12 +142,8 @@ std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
     } catch (const CLI::ParseError& error) {
         return Refuse(error.what());
     }
-    if (options.Diagrams.size() > 1 && !options.IsReview()) {
-        return Refuse(options.Diagrams[1] + ": only one diagram can be compiled at a time");
-    }
-    const auto complaint = Complaint(options.Picture);
-    if (!complaint.empty()) return Refuse(complaint);
-    return std::nullopt;
+    const auto wrong = Contradiction(options);
+    return wrong.empty() ? std::nullopt : std::optional(Refuse(wrong));
 }
 
 }  // namespace quorvane

@@ -32,10 +32,13 @@ struct Options {
     EngineChoice Engine;
     bool StartUnwired = false;
     bool Check = false;
+    bool Describe = false;
+    bool Diff = false;  ///< Between two diagrams, the older one first
+    bool Json = false;
     PictureOrder Picture;
 
     /// True when the diagrams are looked at and none is compiled.
-    bool IsReview() const { return Check || !Picture.File.empty(); }
+    bool IsReview() const { return Check || Describe || Diff || !Picture.File.empty(); }
 };
 
 /// Reads the command line. When there is nothing left to do, because it is wrong or asks for help,

@@ -1,11 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "compile/picture.h"
 
+#include <filesystem>
+
 #include "compile/icon_files.h"
 #include "diagram/picture.h"
 #include "workbench/picture_file.h"
 
 namespace quorvane {
+
+PictureOrder PictureOf(PictureOrder order, const std::string& diagram) {
+    if (order.File.ends_with('/')) {
+        order.File += std::filesystem::path(diagram).stem().string() + ".svg";
+    }
+    return order;
+}
 
 std::string Complaint(const PictureOrder& order) {
     if (order.File.empty()) return "";

@@ -16,6 +16,10 @@ struct PictureOrder {
     std::optional<double> Scale;
 };
 
+/// The order for one of several diagrams: "DIR/" becomes the file in that folder that is called as
+/// the diagram is, an SVG.
+PictureOrder PictureOf(PictureOrder order, const std::string& diagram);
+
 /// Why no diagram can be drawn so: one line, "" for nothing.
 std::string Complaint(const PictureOrder& order);
 

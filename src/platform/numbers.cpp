@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "platform/numbers.h"
 
+#include <cctype>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -121,6 +122,10 @@ std::string NumberText(std::int64_t number) {
     std::string text;
     AppendNumber(text, number);
     return text;
+}
+
+bool IsNameLetter(char byte) {
+    return std::isalnum(static_cast<unsigned char>(byte)) || byte == '_';
 }
 
 bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }

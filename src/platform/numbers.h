@@ -32,6 +32,9 @@ std::string NumberText(std::int64_t number);
 /// The text without the blanks and tabs around it.
 std::string_view Trimmed(std::string_view text);
 
+/// True for the letters of the name of a variable: A to Z, a to z, digits and "_".
+bool IsNameLetter(char byte);
+
 /// False for the bytes of a UTF-8 character after its first one.
 bool BeginsCharacter(char byte);
 

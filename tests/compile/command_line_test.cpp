@@ -26,6 +26,7 @@ protected:
                  "2\r\nConstant Input~3\r\n-1~-1~-1~2~0~0~0~0~0~0~0~0~0\r\n0~0~\r\n"
                  "Compute Function~Input9;\r\n1~-1~-1~0~0~0~0~0~0~0~0~0~0\r\n0~0~\r\n\r\n");
         WriteAll(folder / "cut.qvm", "2\r\nConstant Input~3" + Links);
+        WriteAll(folder / "bytes.qvm", "1\r\nSin~\xE9\"\x01" + Links);
         WriteAll(folder / "empty", "");
         WriteAll(folder / "text", "# A heading\r\n\r\n3 boxes~\r\n");
         // Files of answers are called by what they hold.
@@ -70,6 +71,14 @@ TEST_F(CommandLine, RunsEndInTheirWays) {
         }
     }
     EXPECT_EQ(RunCompile(folder.Path, {"good.qvm"}, "/dev/full").Exit, 2);
+    EXPECT_EQ(RunCompile(folder.Path, {"--describe", "bytes.qvm"}).Output,
+              "Sin:c02593: Sin \"\xE9\\\"\\x01\" at 0,0\n");
+    EXPECT_EQ(RunCompile(folder.Path, {"--describe", "--json", "bytes.qvm"}).Output,
+              R"({"file":"bytes.qvm","boxes":[{"id":"Sin:c02593","type":"Sin",)"
+              "\"text\":\"\xEF\xBF\xBD"
+              R"(\"\u0001","left":0,"top":0,)"
+              R"("inputs":[false,false,false],"exits":[null,null,null,null,null]}]})"
+              "\n");
     EXPECT_EQ(RunCompile(folder.Path, {"--check", "text"}).Errors,
               "quorvane-compile: text: not a Quorvane diagram\n");
 }
@@ -78,8 +87,8 @@ TEST_F(CommandLine, HelpAndVersion) {
     const auto help = RunCompile(folder.Path, {"--help"});
     EXPECT_EQ(help.Exit, 0);
     EXPECT_EQ(help.Errors, "");
-    for (const char* const option :
-         {"DIAGRAM", "-o", "--start-unwired", "--answers", "--mode", "--check", "--picture"}) {
+    for (const char* const option : {"DIAGRAM", "-o", "--start-unwired", "--answers", "--mode",
+                                     "--check", "--picture", "--describe", "--diff", "--json"}) {
         EXPECT_NE(help.Output.find(option), std::string::npos) << option;
     }
     const auto version = RunCompile(folder.Path, {"--version"});
