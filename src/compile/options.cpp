@@ -101,8 +101,7 @@ std::string PictureContradiction(const Options& options) {
     for (const auto& diagram : options.Diagrams) {
         const auto file = PictureOf(options.Picture, diagram).File;
         if (!files.insert(file).second) {
-            return diagram + ": another diagram would be drawn into " + file +
-                   " too: draw it into another folder";
+            return diagram + ": another one would be drawn into " + file + ", too";
         }
     }
     return Complaint(PictureOf(options.Picture, options.Diagrams[0]));
