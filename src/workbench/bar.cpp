@@ -2,7 +2,9 @@
 #include "workbench/bar.h"
 
 #include "commands/change_box.h"
+#include "commands/worksheet_events.h"
 #include "diagram/box_table.h"
+#include "diagram/connections.h"
 #include "diagram/selection.h"
 #include "generator/send_to_matlab.h"
 #include "matlab_link/run_report.h"
@@ -79,6 +81,12 @@ void ChangeBox_Key(Worksheet& sheet, int number) {
     GiveUp();
     if (!sheet.box.Has(number)) return;
     if (!ChangeBox(sheet, number)) Say(BoxName(number) + " has no dialog");
+}
+
+void ArrowFrom_Key(Worksheet& sheet, int number) {
+    GiveUp();
+    mnuArrow_Click(sheet);
+    box_Click(sheet, number);
 }
 
 void ResetBar() { notice = {}; }

@@ -21,6 +21,10 @@ std::string BarState(int document);
 /// up first.
 void ChangeBox_Key(Worksheet& sheet, int number);
 
+/// Begins an arrow at a box, as the command and a click on the box do. What is pending is given up
+/// first.
+void ArrowFrom_Key(Worksheet& sheet, int number);
+
 void ResetBar();
 
 }  // namespace quorvane

@@ -80,8 +80,17 @@ std::optional<int> Rank(const Search& search, const std::string& text, const std
 struct Hit {
     int Rank;
     QuickRow Row;
+
+    /// Of two that begin with the text, the one with the shorter first word fits better.
+    std::size_t FirstWord() const {
+        return Rank == 1 && Row.Box == 0 ? std::min(Row.Text.find(' '), Row.Text.size()) : 0;
+    }
 };
 using Hits = std::vector<Hit>;
+
+bool IsBetter(const Hit& one, const Hit& other) {
+    return one.Rank != other.Rank ? one.Rank < other.Rank : one.FirstWord() < other.FirstWord();
+}
 
 void Add(Hits& hits, const Search& search, const std::string& key, QuickRow row) {
     if (const auto rank = Rank(search, row.Text, key)) hits.push_back({*rank, std::move(row)});
@@ -192,8 +201,7 @@ std::vector<QuickRow> FindQuick(std::string_view text, bool boxesOnly) {
     }
     AddBoxes(hits, search);
     if (!boxesOnly) AddExamples(hits, search);
-    std::stable_sort(hits.begin(), hits.end(),
-                     [](const Hit& one, const Hit& other) { return one.Rank < other.Rank; });
+    std::stable_sort(hits.begin(), hits.end(), IsBetter);
     std::vector<QuickRow> rows;
     for (auto& hit : hits) rows.push_back(std::move(hit.Row));
     return rows;

@@ -29,6 +29,8 @@ struct QuickFind : CatalogueTest {
 TEST_F(QuickFind, TheBestComesFirst) {
     Draw({{"Sin", "", {}, {}}, {"Comment", "some noise", {}, {}}});
     EXPECT_EQ(Found("sin", 1), "Sin (Trigonometric Functions)") << "an equal text";
+    EXPECT_EQ(Found("si", 1), "Sin (Trigonometric Functions)") << "shorter than Size";
+    EXPECT_EQ(Found("2", 1), "2-D Plot (Plot)");
     EXPECT_EQ(Found("matrix m", 1), "Matrix Manipulation (Matrix and Vector Commands)");
     EXPECT_EQ(Found("to ZERO", 1), "To zero (Round Numbers)");
     EXPECT_EQ(Found("cplxpair", 1),

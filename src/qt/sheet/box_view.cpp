@@ -20,6 +20,7 @@
 #include "qt/desktop/screen_units.h"
 #include "qt/sheet/mouse.h"
 #include "qt/sheet/surface_view.h"
+#include "workbench/bar.h"
 #include "workbench/run_report.h"
 
 namespace quorvane {
@@ -242,9 +243,12 @@ void BoxView::Click() {
     Dispatch([&] { box_Click(Sheet(), number_); });
 }
 
-/// Enter or Space clicks the box; with Shift they open its information.
+/// Enter or Space clicks the box; with Shift they open its information. "A" begins an arrow here.
 void BoxView::keyPressEvent(QKeyEvent* event) {
     const auto key = event->key();
+    if (key == Qt::Key_A && event->modifiers() == Qt::NoModifier) {
+        return Dispatch([&] { ArrowFrom_Key(Sheet(), number_); });
+    }
     if (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space) {
         QWidget::keyPressEvent(event);
         return;

@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "commands/worksheet_events.h"
+#include "diagram/box_table.h"
 #include "diagram/selection.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
@@ -228,14 +229,19 @@ void SurfaceView::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-/// Moving the pointer over the sheet runs the command that the toolbox has fired.
+/// Moving the pointer over the sheet runs the command that the toolbox has fired. From a box that
+/// was placed so, the pointer goes to the place of the next one below it.
 void SurfaceView::PressKey() {
+    constexpr int nextBelow = 900;
     const auto at = scale_.ToUnits(MovePointer({}));
+    bool places = false;
     Dispatch([&] {
         main_MouseMove(Sheet(), 0, 0, at.x(), at.y());
+        places = EditMode == 2;
         main_MouseDown(Sheet(), LeftButton, 0, at.x(), at.y());
         main_MouseUp(Sheet(), LeftButton, 0, at.x(), at.y());
     });
+    if (places) MovePointer({0, scale_.ToPixels(nextBelow)});
 }
 
 void SurfaceView::MoveByKey(QPoint by, bool selects) {
