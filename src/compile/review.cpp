@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "check/check_document.h"
+#include "compile/diff_picture.h"
 #include "compile/json_text.h"
 #include "compile/load_diagram.h"
 #include "compile/output.h"
@@ -78,16 +79,20 @@ int ReviewOne(Reviewing& review, const std::string& path) {
 }
 
 int ReviewDifference(ConsoleDesktop& console, const Options& options) {
-    std::vector<Description> described;
-    for (const auto& path : options.Diagrams) {
-        std::string why;
-        if (!LoadDiagram(console, path, why)) return Refuse(why);
-        described.push_back(DescribeDocument(1));
-    }
-    const auto differences = DiffDiagrams(described[0], described[1]);
+    std::string why;
+    if (!LoadDiagram(console, options.Diagrams[0], why)) return Refuse(why);
+    const auto older = Boxes;
+    const auto described = DescribeDocument(1);
+    if (!LoadDiagram(console, options.Diagrams[1], why)) return Refuse(why);
+    const auto diff = DiffDiagrams(described, DescribeDocument(1));
     std::string lines;
-    for (const auto& difference : differences) lines += difference.Line + "\n";
-    const int code = differences.empty() ? NothingFound : SomethingFound;
+    for (const auto& difference : diff.Found) lines += difference.Line + "\n";
+    const int code = diff.Found.empty() ? NothingFound : SomethingFound;
+    if (!options.Picture.File.empty()) {
+        const auto picture = PictureOf(options.Picture, options.Diagrams[1]);
+        const auto fault = DrawPicture(picture, 1, TintDifferences(older, diff));
+        if (!fault.empty()) return Refuse(fault);
+    }
     return std::max(code, Print(lines));
 }
 

@@ -6,8 +6,8 @@
 #include <charconv>
 #include <cstdint>
 #include <cstdio>
+#include <map>
 #include <numeric>
-#include <set>
 #include <string_view>
 #include <tuple>
 #include <utility>
@@ -37,7 +37,7 @@ std::string Digest(std::string_view text, int digits) {
 /// The text itself where it can stand in an id, else a digest of it.
 std::string IdWord(const std::string& text, std::size_t most) {
     const auto fits = [](char c) {
-        return c > ' ' && c <= '~' && std::string_view(",#\"\\{}").find(c) == std::string::npos;
+        return c > ' ' && c <= '~' && std::string_view(",#@\"\\{}").find(c) == std::string::npos;
     };
     if (text.size() <= most && std::all_of(text.begin(), text.end(), fits)) return text;
     return Digest(text, TextDigits);
@@ -197,16 +197,18 @@ Mentions FindMentions(const std::string& text, int document) {
 std::vector<std::string> BoxIds(const std::vector<int>& numbers) {
     const auto parts = PartsOf(numbers);
     std::vector<std::string> ids(parts.size());
-    std::set<std::string> taken;
+    std::map<std::string, int> taken;  // how often
     for (const auto place : Ordered(parts)) {
-        auto id = parts[place].Kind;
-        const auto& feeders = parts[place].Feeders;
-        if (taken.contains(id) && !feeders.empty()) id += "." + Digest(feeders, FeederDigits);
-        for (int n = 2; !taken.insert(id).second; ++n) {
-            id.erase(n > 2 ? id.rfind('#') : id.size());
-            id += "#" + NumberText(n);
+        const auto& part = parts[place];
+        auto id = part.Kind;
+        if (taken.contains(id) && !part.Feeders.empty()) {
+            id += "." + Digest(part.Feeders, FeederDigits);
         }
-        ids[place] = id;
+        if (taken.contains(id)) {
+            id += "@" + NumberText(part.Record->BoxLeft) + "," + NumberText(part.Record->BoxTop);
+        }
+        const int times = ++taken[id];
+        ids[place] = times == 1 ? id : id + "#" + NumberText(times);
     }
     return ids;
 }

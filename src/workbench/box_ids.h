@@ -22,9 +22,9 @@ Mentions FindMentions(const std::string& text, int document);
 /// A name for each of these boxes of one document. It doesn't hang on numbers, and hardly on the
 /// rest of the diagram: it is made of type and text. Of boxes that share these, the first on the
 /// sheet, from top to bottom and then from left to right, has that name; the others add a digest of
-/// what feeds them, and where that is the same too, "#" and a number in the same order. Boxes on
-/// the very same place are told apart by their arrows. It is made of visible ASCII characters,
-/// without blanks and commas.
+/// what feeds them, and where that is taken too, their place. So a box that comes or goes changes
+/// the names of at most two others, and a box that is moved keeps its own unless another one is
+/// just like it. Boxes on the very same place are told apart by their arrows. A name has no blanks.
 std::vector<std::string> BoxIds(const std::vector<int>& numbers);
 
 }  // namespace quorvane

@@ -27,7 +27,7 @@ struct Side {
 struct Comparison {
     Side Old;
     Side New;
-    std::vector<Difference> Found;
+    DiagramDiff Diff;
 };
 
 /// A box and what has become of it.
@@ -107,8 +107,8 @@ void Tell(Comparison& both, Change kind, const Pair& box, const std::string& now
                                                         {Change::Changed, "changed "},
                                                         {Change::Rewired, "rewired "},
                                                         {Change::Recoloured, "recoloured "}};
-    both.Found.push_back({kind, box.Old.Number, box.New.Number,
-                          words.at(kind) + Named(box.New) + ": " + now + ", was " + before});
+    both.Diff.Found.push_back({kind, box.Old.Number, box.New.Number,
+                               words.at(kind) + Named(box.New) + ": " + now + ", was " + before});
 }
 
 /// True for slots that say the same, each in its diagram.
@@ -174,27 +174,28 @@ void ComparePair(Comparison& both, const Pair& box) {
 
 }  // namespace
 
-std::vector<Difference> DiffDiagrams(const Description& older, const Description& newer) {
+DiagramDiff DiffDiagrams(const Description& older, const Description& newer) {
     Comparison both{Side(older), Side(newer), {}};
     for (const auto& key : keys) MakePairs(both, key);
     for (std::size_t i = 0; i < newer.size(); ++i) {
         const auto& box = newer[i];
         if (both.New.Pair[i] != Alone) continue;
-        both.Found.push_back(
+        both.Diff.Found.push_back(
             {Change::Added, 0, box.Number, "added " + Named(box) + ": " + BoxWords(newer, box)});
     }
     for (std::size_t i = 0; i < older.size(); ++i) {
         const auto& box = older[i];
         if (both.Old.Pair[i] != Alone) {
+            both.Diff.NewNumbers[box.Number] = newer[both.Old.Pair[i]].Number;
             ComparePair(both, {box, newer[both.Old.Pair[i]]});
         } else {
-            both.Found.push_back({Change::Removed, box.Number, 0,
-                                  "removed " + Named(box) + ": " + BoxWords(older, box)});
+            both.Diff.Found.push_back({Change::Removed, box.Number, 0,
+                                       "removed " + Named(box) + ": " + BoxWords(older, box)});
         }
     }
-    std::stable_sort(both.Found.begin(), both.Found.end(),
+    std::stable_sort(both.Diff.Found.begin(), both.Diff.Found.end(),
                      [](const auto& one, const auto& other) { return one.Kind < other.Kind; });
-    return std::move(both.Found);
+    return std::move(both.Diff);
 }
 
 }  // namespace quorvane

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -18,9 +19,14 @@ struct Difference {
     std::string Line;   ///< In words
 };
 
+struct DiagramDiff {
+    std::vector<Difference> Found;
+    std::map<int, int> NewNumbers;  ///< Of the boxes that both have, by their old ones
+};
+
 /// What it takes to make the new diagram of the old one. A box is the same when it has the same id,
 /// else when it has the same type and place, else when it is alike or its neighbours are the same.
 /// Numbers make no difference.
-std::vector<Difference> DiffDiagrams(const Description& older, const Description& newer);
+DiagramDiff DiffDiagrams(const Description& older, const Description& newer);
 
 }  // namespace quorvane
