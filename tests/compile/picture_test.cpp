@@ -81,4 +81,25 @@ TEST(PictureTest, WritesWhatTheEndingNames) {
     EXPECT_EQ(unwritten.Errors, "quorvane-compile: gone/a.pdf: The picture can't be written\n");
 }
 
+TEST(PictureTest, ShowsWhatHasChanged) {
+    const WorkFolder folder;
+    WriteAll(folder / "old.qvm", Diagram);
+    // Without box 1, which fed box 2, and with box 3 elsewhere.
+    WriteAll(folder / "new.qvm",
+             "2\r\nSin~\r\n0~0~-1~0~0~0~0~0~0~0~0~0~0\r\n300~1200~\r\n"
+             "Comment~a<b&c;;\xC3\xA9 \xE9 "
+             "\x01\xEF\xBF\xBF\r\n-1~-1~-1~-1~0~-1~0~-1~0~-1~0~-1~0\r\n1800~308~\r\n\r\n");
+    const auto run =
+        RunCompile(folder.Path, {"--diff", "--picture", "both.svg", "old.qvm", "new.qvm"});
+    EXPECT_EQ(run.Exit, 1) << run.Errors;
+    const auto both = ReadAll(folder / "both.svg");
+    for (const char* const part :
+         {R"(stroke="#d03030" stroke-width="2"/>)", R"(stroke="#3060d0" stroke-width="2"/>)",
+          R"(<path stroke="#d03030")"}) {
+        EXPECT_NE(both.find(part), std::string::npos) << part << " in " << both;
+    }
+    EXPECT_EQ(RunCompile(folder.Path, {"--picture", "./", "old.qvm", "new.qvm"}).Exit, 0);
+    EXPECT_TRUE(ReadAll(folder / "old.svg").starts_with("<svg"));
+}
+
 }  // namespace
