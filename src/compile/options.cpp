@@ -101,7 +101,8 @@ std::string PictureContradiction(const Options& options) {
     for (const auto& diagram : options.Diagrams) {
         const auto file = PictureOf(options.Picture, diagram).File;
         if (!files.insert(file).second) {
-            return diagram + ": another one would be drawn into the same file, " + file;
+            auto text = diagram + ": another one would be drawn into the same file, ";
+            return text += file;
         }
     }
     return Complaint(PictureOf(options.Picture, options.Diagrams[0]));

@@ -38,7 +38,7 @@ struct Standing {
     int Stored = 0;
     std::string Caption;
 
-    friend bool operator==(const Standing&, const Standing&) = default;
+    bool operator==(const Standing&) const = default;
 };
 
 struct OwnFolder {
