@@ -339,7 +339,13 @@ bool RunScript(const std::string& script, const LineBoxes& boxes, bool isOpen = 
     const BusyScope busy;
     ReportRunning(boxes);
     engine.Loops ? SendScript(job) : CallLoop();
-    WaitForEnd(job);
+    try {
+        WaitForEnd(job);
+    } catch (...) {
+        LookAtLineEnd(job.Reader);
+        PassOn(job);
+        throw;
+    }
     ShowState("");
     ReportEnd(boxes, job.Failed, job.StoppedAt != Never);
     return !job.Refused;
