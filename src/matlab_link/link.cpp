@@ -31,7 +31,7 @@ constexpr std::int64_t GoingMilliseconds = 3000;
 constexpr int BreakSeconds = 5;
 constexpr std::int16_t NoBox = 0;
 
-/// The arguments of an engine, by the beginning of its file name. They are plain words, so that
+/// The arguments of an engine, by the beginning of its file name; any other is an Octave. They are plain words, so that
 /// they come through any command that starts the engine elsewhere.
 struct EngineRow {
     const char* Name;
@@ -43,10 +43,10 @@ constexpr std::string_view octaveSetUp =
     "warning('off','backtrace');sigterm_dumps_octave_core(false);"
     "sighup_dumps_octave_core(false);\n";
 const EngineRow engineRows[] = {
-    {"octave",
+    {"matlab", false, {"-nodesktop", "-nosplash"}},
+    {"",
      true,
      {"--no-gui", "--quiet", "--no-init-file", "--no-history", "--eval", "format", "--persist"}},
-    {"", false, {"-nodesktop", "-nosplash"}},
 };
 
 /// An engine that another program starts is named by the last word that names one.
