@@ -31,8 +31,8 @@ constexpr std::int64_t GoingMilliseconds = 3000;
 constexpr int BreakSeconds = 5;
 constexpr std::int16_t NoBox = 0;
 
-/// The arguments of an engine, by the beginning of its file name; any other is an Octave. They are plain words, so that
-/// they come through any command that starts the engine elsewhere.
+/// The arguments of an engine, by the beginning of its file name; any other is an Octave. They are
+/// plain words, so that they come through any command that starts the engine elsewhere.
 struct EngineRow {
     const char* Name;
     bool IsOctave;
