@@ -135,6 +135,10 @@ const BoxCommand* FindBoxCommand(std::string_view control) {
     return FindRow([&](const BoxCommand& row) { return MakesBox(row) && row.Control == control; });
 }
 
+const BoxCommand* FindCommandOfDialog(std::string_view dialog) {
+    return FindRow([&](const BoxCommand& row) { return row.Dialog == dialog; });
+}
+
 std::string PlainCaption(std::string_view caption) {
     std::string plain(caption);
     std::erase(plain, '&');

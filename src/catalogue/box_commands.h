@@ -52,6 +52,9 @@ inline bool MakesBox(const BoxCommand& row) { return row.Entries != NoBox; }
 /// The command of a menu entry that makes a box, nullptr for any other name.
 const BoxCommand* FindBoxCommand(std::string_view control);
 
+/// The command that opens this dialog, nullptr when none does.
+const BoxCommand* FindCommandOfDialog(std::string_view dialog);
+
 /// A menu's caption without the mark of its letter and the dots that announce a dialog.
 std::string PlainCaption(std::string_view caption);
 

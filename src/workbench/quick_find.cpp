@@ -111,16 +111,9 @@ void AddCommands(Hits& hits, const Search& search) {
     }
 }
 
-const BoxCommand* CommandOfDialog(std::string_view dialog) {
-    for (const auto& row : boxCommands) {
-        if (row.Dialog == dialog) return &row;
-    }
-    return nullptr;
-}
-
 void AddOptions(Hits& hits, const Search& search) {
     for (const auto& list : optionLists) {
-        const auto* command = CommandOfDialog(list.Dialog);
+        const auto* command = FindCommandOfDialog(list.Dialog);
         for (int i = 0; command && i < static_cast<int>(list.Options.size()); ++i) {
             const auto& option = list.Options[static_cast<std::size_t>(i)];
             if (OptionName(list, option).empty()) continue;

@@ -364,6 +364,7 @@ void FormView::Refresh() {
         const QSignalBlocker quiet(control);
         std::visit([&](auto* record) { Show(*record, control); }, row.Record);
     }
+    if (const auto* list = FindOptionList(form_.Name)) ShowOptionTips(*list, this);
     if (form_.Surface) update();
 }
 

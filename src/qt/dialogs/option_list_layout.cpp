@@ -10,6 +10,7 @@
 #include <QRadioButton>
 
 #include "qt/desktop/screen_units.h"
+#include "workbench/option_lines.h"
 
 namespace quorvane {
 
@@ -74,6 +75,14 @@ void SetUpOptionList(const OptionList& list, QWidget* window) {
     last->addStretch();
     last->addWidget(ok);
     rows->addLayout(last);
+}
+
+void ShowOptionTips(const OptionList& list, const QWidget* window) {
+    for (const auto& option : list.Options) {
+        auto* button =
+            window->findChild<QWidget*>(QString::fromStdString(OptionName(list, option)));
+        if (button) button->setToolTip(ToScreen(TipOfOption(list, option)).replace("\r\n", "\n"));
+    }
 }
 
 }  // namespace quorvane

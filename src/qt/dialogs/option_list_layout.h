@@ -11,4 +11,7 @@ namespace quorvane {
 /// the further field beside its option or below, and OK.
 void SetUpOptionList(const OptionList& list, QWidget* window);
 
+/// Says in each option's tool tip what it writes, with the further field as it stands.
+void ShowOptionTips(const OptionList& list, const QWidget* window);
+
 }  // namespace quorvane
