@@ -39,6 +39,15 @@ void ShiftRecentFiles(const std::string& name) {
     desktop->WriteStore(Section, KeyOf(1), name);
 }
 
+std::vector<std::string> RecentFiles() {
+    std::vector<std::string> names;
+    for (int i = 1; i <= StoredNames; ++i) {
+        auto name = desktop->ReadStore(Section, KeyOf(i));
+        if (!name.empty()) names.push_back(std::move(name));
+    }
+    return names;
+}
+
 void AddRecentFile(const std::string& name) {
     if (!IsRecentFile(name)) ShiftRecentFiles(name);
     RefreshRecentFileMenus();

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace quorvane {
 
@@ -10,6 +11,9 @@ namespace quorvane {
 
 /// True when one of the frame's entries 1 to 4 has this caption.
 bool IsRecentFile(const std::string& name);
+
+/// The stored names, the newest first.
+std::vector<std::string> RecentFiles();
 
 /// Puts `name` first unless the frame's menu already shows it, and refills the menus.
 void AddRecentFile(const std::string& name);

@@ -2,7 +2,6 @@
 #include "workbench/quick_find.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <optional>
 
 #include "catalogue/box_commands.h"
@@ -14,6 +13,7 @@
 #include "files/document_file.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
+#include "workbench/examples.h"
 #include "workbench/history.h"
 
 namespace quorvane {
@@ -164,19 +164,9 @@ void AddBoxes(Hits& hits, const Search& search) {
 }
 
 void AddExamples(Hits& hits, const Search& search) {
-    std::vector<std::string> files;
-    std::error_code error;
-    const std::filesystem::directory_iterator folder(JoinPath(ProgramDirectory, "examples"), error);
-    for (const auto& entry : folder) {
-        if (entry.path().extension() == ".qvm") files.push_back(entry.path().string());
-    }
-    std::sort(files.begin(), files.end());
-    for (auto& file : files) {
-        std::string name(FileNameOf(file));
-        name.resize(name.size() - std::string_view(".qvm").size());
-        std::replace(name.begin(), name.end(), '_', ' ');
+    for (auto& example : Examples()) {
         Add(hits, search, "",
-            {.Text = std::move(name), .Where = "example", .File = std::move(file)});
+            {.Text = std::move(example.Name), .Where = "example", .File = std::move(example.File)});
     }
 }
 

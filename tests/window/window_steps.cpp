@@ -379,6 +379,15 @@ Words WindowTest::Frames() {
              RefreshScreen();
          })},
         {"show", Step([this](A) { Frame().show(); })},
+        {"drop", Step([this](A a) {
+             QMimeData files;
+             files.setUrls({QUrl::fromLocalFile(File(ToScreen(a.Text)))});
+             QDragEnterEvent enter({}, Qt::CopyAction, &files, Qt::LeftButton, {});
+             QCoreApplication::sendEvent(&Frame(), &enter);
+             EXPECT_TRUE(enter.isAccepted());
+             QDropEvent drop({}, Qt::CopyAction, &files, Qt::LeftButton, {});
+             QCoreApplication::sendEvent(&Frame(), &drop);
+         })},
         {"minimized", Seen([this](A a) { return WindowOf(a)->isMinimized(); })},
         {"minimize", Step([this](A a) { WindowOf(a)->showMinimized(); })},
         {"bar", Seen([this](A) {

@@ -18,7 +18,9 @@ public:
         constexpr double faint = 0.35;
         if (mode == QIcon::Disabled) painter->setOpacity(faint);
         painter->setRenderHint(QPainter::Antialiasing);
-        QSvgRenderer(file_).render(painter, QRectF(rect));
+        QSvgRenderer drawing(file_);
+        drawing.setAspectRatioMode(Qt::KeepAspectRatio);
+        drawing.render(painter, QRectF(rect));
     }
     QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
         QPixmap drawn(size);
@@ -35,6 +37,6 @@ private:
 
 }  // namespace
 
-QIcon SvgIcon(const QString& name) { return QIcon(new SvgIconEngine(":/bar/" + name + ".svg")); }
+QIcon SvgIcon(const QString& name) { return QIcon(new SvgIconEngine(":/" + name + ".svg")); }
 
 }  // namespace quorvane

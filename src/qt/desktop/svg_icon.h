@@ -5,8 +5,8 @@
 
 namespace quorvane {
 
-/// An icon of the frame's own buttons, `resources/icons/bar/NAME.svg`, drawn anew for each size and
-/// resolution.
+/// A drawing of the program's resources, "bar/undo" or "examples/sine", as an icon that is drawn
+/// anew for each size and resolution.
 QIcon SvgIcon(const QString& name);
 
 }  // namespace quorvane

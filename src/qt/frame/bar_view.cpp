@@ -136,7 +136,7 @@ void BarView::AddButtons(const QString& from, const QString& to) {
         auto* button = new QToolButton(this);
         button->setObjectName(row.Name);
         button->setAccessibleName(row.Tip);
-        button->setIcon(SvgIcon(row.Name));
+        button->setIcon(SvgIcon("bar/" + QString(row.Name)));
         button->setIconSize(QSize(IconSide, IconSide));
         button->setAutoRaise(true);
         button->setFocusPolicy(Qt::TabFocus);
@@ -180,7 +180,7 @@ void BarView::AddPanel(const QString& name, const QString& caption, const QStrin
     button->setObjectName(name);
     button->setAccessibleName(caption);
     button->setToolTip(QString("%1 (%2)").arg(caption, key));
-    button->setIcon(SvgIcon(name));
+    button->setIcon(SvgIcon("bar/" + QString(name)));
     button->setIconSize(QSize(IconSide, IconSide));
     button->setAutoRaise(true);
     button->setFocusPolicy(Qt::TabFocus);

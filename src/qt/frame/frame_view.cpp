@@ -9,6 +9,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMimeData>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QSplitter>
@@ -18,7 +19,9 @@
 
 #include "diagram/box_table.h"
 #include "files/close_document.h"
+#include "files/document_file.h"
 #include "qt/desktop/dispatch.h"
+#include "qt/desktop/screen_units.h"
 #include "qt/dialogs/form_view.h"
 #include "qt/frame/bar_view.h"
 #include "qt/frame/boxes_panel.h"
@@ -26,6 +29,7 @@
 #include "qt/frame/sheet_keys.h"
 #include "qt/frame/splash_view.h"
 #include "qt/frame/toolbox_view.h"
+#include "qt/frame/welcome_view.h"
 #include "qt/link/results_view.h"
 #include "qt/sheet/box_view.h"
 #include "qt/sheet/sheet_marks.h"
@@ -118,6 +122,8 @@ FrameView::FrameView() {
     area_ = new QMdiArea(this);
     area_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    welcome_ = new WelcomeView(area_->viewport());
+    setAcceptDrops(true);
     bar_ = new BarView(this);
     auto* inner = new QWidget(this);
     auto* rows = new QVBoxLayout(inner);
@@ -174,7 +180,9 @@ WorksheetView* FrameView::ViewOf(int document) const {
 void FrameView::OpenWindow(int document) {
     auto* window = new WorksheetWindow(new WorksheetView(document));
     window->setAttribute(Qt::WA_DeleteOnClose, false);
+    const bool isFirst = area_->subWindowList().isEmpty();
     area_->addSubWindow(window);
+    if (isFirst) window->setGeometry(area_->viewport()->rect());
     window->show();
 }
 
@@ -207,6 +215,7 @@ void FrameView::ShowRecords() {
         if (auto* view = ViewOf(i)) view->Refresh();
     }
     ShowMenus();
+    welcome_->Refresh(!area_->subWindowList().isEmpty());
     splash_->Refresh();
     bar_->Refresh();
     boxes_->Refresh();
@@ -332,6 +341,18 @@ int FrameView::CurrentBox() const {
 void FrameView::showEvent(QShowEvent* event) {
     QMainWindow::showEvent(event);
     QMetaObject::invokeMethod(toolbox_, &ToolboxView::Refresh, Qt::QueuedConnection);
+}
+
+/// Boxes that are dragged are not for the frame.
+void FrameView::dragEnterEvent(QDragEnterEvent* event) {
+    if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+void FrameView::dropEvent(QDropEvent* event) {
+    for (const auto& url : event->mimeData()->urls()) {
+        if (!url.isLocalFile()) continue;
+        Dispatch([file = ToCore(url.toLocalFile())] { LoadDocumentFile(file); });
+    }
 }
 
 void FrameView::closeEvent(QCloseEvent* event) {

@@ -18,6 +18,7 @@ class ScriptPanel;
 class SplashView;
 class ResultsView;
 class ToolboxView;
+class WelcomeView;
 class WorksheetView;
 
 /// The frame: one window that holds the worksheets, with the menu bar of the active one.
@@ -43,6 +44,8 @@ public:
 protected:
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    void dragEnterEvent(QDragEnterEvent* event) override;
+    void dropEvent(QDropEvent* event) override;
 
 private:
     WorksheetView* ViewOf(int document) const;
@@ -60,6 +63,7 @@ private:
     ScriptPanel* script_ = nullptr;
     ToolboxView* toolbox_;
     ResultsView* results_ = nullptr;
+    WelcomeView* welcome_ = nullptr;
     std::unique_ptr<SplashView> splash_;
     MenuSet frameMenus_;
     MenuSet documentMenus_;
