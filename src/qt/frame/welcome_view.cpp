@@ -177,8 +177,7 @@ QWidget* WelcomeView::ExampleList() {
     rows->setContentsMargins(0, 0, 0, 0);
     examples_.clear();
     const auto examples = Examples();
-    if (examples.empty()) return column;
-    rows->addWidget(Heading("Examples", 2));
+    if (!examples.empty()) rows->addWidget(Heading("Examples", 2));
     grid_ = new QGridLayout;
     rows->addLayout(grid_);
     rows->addStretch(1);
@@ -190,6 +189,7 @@ QWidget* WelcomeView::ExampleList() {
                        ToScreen(example.Line), [name = example.File] { LoadDocumentFile(name); });
         button->setIconSize(PictureSize);
         button->setIcon(SvgIcon("examples/" + QFileInfo(file).completeBaseName()));
+        grid_->addWidget(button, i, 0);
         examples_.append(button);
     }
     return column;
