@@ -33,12 +33,11 @@ struct BoxAsRun {
 /// What the last run into MATLAB left, written by the link. A script of several boxes, which is a
 /// block, is run when its last box has been sent.
 struct LinkReport {
-    bool wantsValues =
-        false;      ///< Values are asked for. Whoever shows them sets it; a run leaves it
-    int Box = 0;    ///< The box that was sent last in a run that goes on, 0 for none
-    int Sent = 0;   ///< How many boxes have been sent
-    int Total = 0;  ///< How many boxes the document has that are run
-    int Runs = 0;   ///< How many runs have begun
+    bool wantsValues = false;  ///< Values are asked for. The frame sets it; a run leaves it
+    int Box = 0;               ///< The box that was sent last in a run that goes on, 0 for none
+    int Sent = 0;              ///< How many boxes have been sent
+    int Total = 0;             ///< How many boxes the document has that are run
+    int Runs = 0;              ///< How many runs have begun
     /// By the numbers that the boxes had in the run; ReportOf (workbench/run_report.h) follows them
     /// to those of today.
     CheckedArray<BoxReport, 1, MaxBoxes> Of;

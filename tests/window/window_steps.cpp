@@ -269,6 +269,7 @@ Words WindowTest::Looks() {
              const auto state = cell->state();
              return ToCore(cell->text(QAccessible::Name)) + (state.selected ? " *" : "");
          })},
+        {"asks", Seen([](A) { return linkReport.wantsValues; })},
         // The tool tip that comes up by itself.
         {"told", Seen([](A) {
              EXPECT_TRUE(QTest::qWaitFor([] { return QToolTip::isVisible(); }));

@@ -225,12 +225,6 @@ bool BoxesPanel::eventFilter(QObject* watched, QEvent* event) {
     return TakeKey(key->key(), key->modifiers()) || QWidget::eventFilter(watched, event);
 }
 
-/// While it shows, the link asks for values.
-void BoxesPanel::showEvent(QShowEvent*) {
-    linkReport.wantsValues = true;
-    Refresh();
-}
-
-void BoxesPanel::hideEvent(QHideEvent*) { linkReport.wantsValues = false; }
+void BoxesPanel::showEvent(QShowEvent*) { Refresh(); }
 
 }  // namespace quorvane

@@ -20,6 +20,7 @@
 #include "diagram/box_table.h"
 #include "files/close_document.h"
 #include "files/document_file.h"
+#include "matlab_link/run_report.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/dialogs/form_view.h"
@@ -218,6 +219,7 @@ void FrameView::ShowRecords() {
     welcome_->Refresh(!area_->subWindowList().isEmpty());
     splash_->Refresh();
     bar_->Refresh();
+    linkReport.wantsValues = boxes_->isVisible() || script_->isVisible();
     boxes_->Refresh();
     script_->Refresh();
     toolbox_->Refresh();
