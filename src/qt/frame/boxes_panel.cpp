@@ -141,7 +141,9 @@ void BoxesPanel::List() {
     boxes_->clear();
     for (const auto& row : Outline(ToCore(filter_->text()))) {
         if (row.Box == 0) {
-            boxes_->addTopLevelItem(new QTreeWidgetItem(Cells(row)));
+            auto* sheet = new QTreeWidgetItem(Cells(row));
+            boxes_->addTopLevelItem(sheet);
+            sheet->setFirstColumnSpanned(true);  // so that a long name widens no column
             continue;
         }
         auto* item =
