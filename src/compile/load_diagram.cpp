@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "compile/load_diagram.h"
 
+#include <filesystem>
 #include <utility>
 #include <vector>
 
@@ -8,6 +9,7 @@
 #include "diagram/worksheet.h"
 #include "files/document_file.h"
 #include "platform/file_table.h"
+#include "platform/numbers.h"
 
 namespace quorvane {
 
@@ -19,6 +21,39 @@ void ForgetDiagram() {
     ResetBoxTable();
     ResetDocuments();
     ResetDocumentFile();
+}
+
+/// The first of the three lines of a box.
+int LineOfBox(int number) { return 3 * number - 1; }
+
+/// A load that breaks off leaves the boxes that it has read behind the others.
+int BoxesRead() {
+    int count = 0;
+    while (BoxOrFree(count + 1).BoxDocument != 0) ++count;
+    return count;
+}
+
+/// Where the file is wrong and what to do, after what the loader has told.
+std::string Fault(const std::string& path, const std::string& told) {
+    const std::string mend =
+        "; take an earlier version of it, or open it in Quorvane, which shows ";
+    const int read = BoxesRead();
+    if (!lastLoad.Opened) {
+        return std::filesystem::exists(path) ? "It can't be read: it is no file, or closed to you"
+                                             : told + " Look at its name and its folder";
+    }
+    if (!lastLoad.HasCount) {
+        return "line 1: not a Quorvane diagram, which begins with the number of its boxes";
+    }
+    if (lastLoad.Finished) {
+        return "The file ends in the middle of a box, its last one, box" + NumberText(read) + mend +
+               "what is left of it";
+    }
+    if (lastLoad.EndsEarly) {
+        return "line " + NumberText(LineOfBox(read + 1)) + ": " + told + ": box" +
+               NumberText(read + 1) + " isn't there" + mend + "those before it";
+    }
+    return "line 1: " + told + " At most " + NumberText(MaxBoxes) + " fit: part it in two";
 }
 
 }  // namespace
@@ -37,15 +72,9 @@ bool LoadDiagram(ConsoleDesktop& console, const std::string& path, std::string& 
                                ? +[](int number, const std::string&) { OpenStandardInput(number); }
                                : OpenForInput);
     console.WriteTranscript = write;
-    if (lastLoad.Opened && !lastLoad.HasCount) {
-        lastText = "not a Quorvane diagram";
-    } else if (lastLoad.Finished && lastLoad.ReadPastEnd) {
-        lastText = "The file ends in the middle of a box";
-    } else if (lastLoad.Finished) {
-        lastText.clear();
-    }
-    if (!lastText.empty()) {
-        why = (isPiped ? "standard input" : path) + ": " + lastText;
+    const bool isWhole = lastLoad.Finished && lastLoad.HasCount && !lastLoad.ReadPastEnd;
+    if (!isWhole) {
+        why = (isPiped ? "standard input" : path) + ": " + Fault(path, lastText);
         return false;
     }
     for (const auto& line : held) write(line);

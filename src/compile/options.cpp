@@ -3,6 +3,7 @@
 
 #include <CLI/CLI.hpp>
 #include <set>
+#include <vector>
 
 #include "compile/output.h"
 #include "platform/numbers.h"
@@ -11,6 +12,23 @@
 namespace quorvane {
 
 namespace {
+
+/// The options under their headings in the help, which are called as they are used.
+struct OptionGroup {
+    const char* Heading;
+    std::vector<const char*> Names;
+};
+const OptionGroup groups[] = {
+    {"To compile, as in quorvane-compile -o plot.m plot.qvm",
+     {"--output", "--start-unwired", "--answers", "--mode", "--set"}},
+    {"To run, as in quorvane-compile --run --engine \"ssh host octave-cli\" sums.qvm",
+     {"--run", "--engine", "--start-limit"}},
+    {"To check, as in quorvane-compile --check *.qvm", {"--check"}},
+    {"To draw, as in quorvane-compile --picture plot.pdf --paper plot.qvm",
+     {"--picture", "--paper", "--numbers", "--scale"}},
+    {"To compare, as in quorvane-compile --diff old.qvm new.qvm", {"--describe", "--diff"}},
+    {"For other programs, as in quorvane-compile --describe --json plot.qvm", {"--json"}},
+};
 
 void AddCompiling(CLI::App& app, Options& options) {
     app.add_option("-o,--output", options.Output, "Write there instead of to standard output")
@@ -73,10 +91,11 @@ void AddReviews(CLI::App& app, Options& options) {
     auto* describe =
         app.add_flag("--describe", options.Describe, "List the boxes in lines that can be compared")
             ->option_text(" ");
-    auto* diff = app.add_flag("--diff", options.Diff,
-                              "Tell what has changed from the first diagram to the second, exit 1 "
-                              "if anything")
-                     ->option_text(" ");
+    auto* diff =
+        app.add_flag(
+               "--diff", options.Diff,
+               "Tell what has changed from the first diagram to the second, exit 1 if anything")
+            ->option_text(" ");
     auto* json = app.add_flag("--json", options.Json, "Print JSON, with --check or --describe")
                      ->option_text(" ");
     for (const char* const compiling : {"--output", "--answers", "--mode", "--set", "--run"}) {
@@ -127,20 +146,26 @@ std::string Contradiction(const Options& options) {
 }  // namespace
 
 std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
-    CLI::App app("Compiles a Quorvane diagram to MATLAB script.", "quorvane-compile");
+    CLI::App app("Compiles, runs, checks, draws and compares Quorvane diagrams.",
+                 "quorvane-compile");
     app.set_version_flag("--version", "quorvane-compile " QUORVANE_VERSION);
-    app.add_option("DIAGRAM", options.Diagrams, "The diagram file (.qvm), - for standard input")
+    app.add_option("DIAGRAM", options.Diagrams,
+                   "A diagram file (.qvm), - for standard input; several to\n"
+                   "check, describe and draw, two to tell the difference")
         ->required()
         ->option_text(" ");
     AddCompiling(app, options);
     AddRunning(app, options);
     AddReviews(app, options);
+    for (const auto& group : groups) {
+        for (const auto* const name : group.Names) app.get_option(name)->group(group.Heading);
+    }
     try {
         app.parse(argc, argv);
     } catch (const CLI::Success& success) {
         return app.exit(success);
     } catch (const CLI::ParseError& error) {
-        return Refuse(error.what());
+        return Refuse(error.what() + std::string("; see quorvane-compile --help"));
     }
     const auto wrong = Contradiction(options);
     return wrong.empty() ? std::nullopt : std::optional(Refuse(wrong));

@@ -135,6 +135,7 @@ bool ReadBoxes(Load& load, std::int16_t base, std::int16_t count) {
         bool ended = false;
         load.Do([&] { ended = EndOfFile(LoadFile); });
         if (ended) {
+            lastLoad.EndsEarly = true;
             Tell("Abnormal termination of file", Icon::Exclamation);
             CloseFile(LoadFile);
             return false;

@@ -19,6 +19,7 @@ struct LoadOutcome {
     bool Opened = false;
     bool HasCount = false;     ///< It begins with a number of boxes, as every diagram does
     bool Finished = false;     ///< It was read to its end: neither refused nor cut short
+    bool EndsEarly = false;    ///< It ends between two boxes
     bool ReadPastEnd = false;  ///< A line was asked for after the end of the file
 };
 extern LoadOutcome lastLoad;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include <gtest/gtest.h>
 
+#include <regex>
 #include <sstream>
 
 #include "compile/run_compile.h"
@@ -80,17 +81,23 @@ TEST_F(CommandLine, RunsEndInTheirWays) {
               R"("inputs":[false,false,false],"exits":[null,null,null,null,null]}]})"
               "\n");
     EXPECT_EQ(RunCompile(folder.Path, {"--check", "text"}).Errors,
-              "quorvane-compile: text: not a Quorvane diagram\n");
+              "quorvane-compile: text: line 1: not a Quorvane diagram, which begins with the "
+              "number of its "
+              "boxes\n");
 }
 
 TEST_F(CommandLine, HelpAndVersion) {
     const auto help = RunCompile(folder.Path, {"--help"});
     EXPECT_EQ(help.Exit, 0);
     EXPECT_EQ(help.Errors, "");
-    for (const char* const option : {"DIAGRAM", "-o", "--start-unwired", "--answers", "--mode",
-                                     "--check", "--picture", "--describe", "--diff", "--json"}) {
-        EXPECT_NE(help.Output.find(option), std::string::npos) << option;
+    const auto page = ReadAll(QUORVANE_SOURCE_DIR "/docs/quorvane-compile.1");
+    const std::regex option("\\n  (?:-.,)?-(-[a-z-]+)");
+    int options = 0;
+    for (std::sregex_iterator at(help.Output.begin(), help.Output.end(), option), end; at != end;
+         ++at, ++options) {
+        EXPECT_NE(page.find("Fl " + at->str(1)), std::string::npos) << at->str(1);
     }
+    EXPECT_GT(options, 15) << help.Output;
     const auto version = RunCompile(folder.Path, {"--version"});
     EXPECT_EQ(version.Exit, 0);
     EXPECT_EQ(version.Output, "quorvane-compile " QUORVANE_VERSION "\n");
