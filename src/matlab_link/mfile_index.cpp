@@ -5,20 +5,12 @@
 #include <string_view>
 
 #include "diagram/preferences.h"
+#include "matlab_link/folder_tree.h"
 #include "platform/desktop.h"
 #include "platform/file_table.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
-
-#ifdef __linux__
-#include <dirent.h>
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-#else
-#include <filesystem>
-#endif
 
 namespace quorvane {
 
@@ -47,112 +39,15 @@ ScanningForm frmScanning;
 namespace {
 
 /// The kernel's own trees: they hold no M-files and have no end.
-constexpr std::string_view kernelTrees[] = {"/proc", "/sys", "/dev", "/run"};
-
-struct FolderContents {
-    std::vector<std::string> Folders;
-    std::vector<std::string> MFiles;
-};
-
-/// What an entry may be, judged by its name. A line of the index can't hold a line end.
-enum class NameKind { Other, Folder, MFile };
-
-NameKind KindOfName(std::string_view name) {
-    const auto dot = name.rfind('.');
-    const bool isFolder = dot == std::string_view::npos;
-    const bool isMFile = !isFolder && dot + 2 == name.size() && (name.back() | 0x20) == 'm';
-    if (!isFolder && !isMFile) return NameKind::Other;
-    if (name.find_first_of("\r\n") != std::string_view::npos) return NameKind::Other;
-    return isFolder ? NameKind::Folder : NameKind::MFile;
+bool IsKernelTree(std::string_view path) {
+    constexpr std::string_view trees[] = {"/proc", "/sys", "/dev", "/run"};
+    return std::find(std::begin(trees), std::end(trees), path) != std::end(trees);
 }
 
-#ifdef __linux__
-
-bool HasMode(int folder, const dirent64& entry, mode_t wanted, int flags) {
-    struct stat status {};
-    return fstatat(folder, entry.d_name, &status, flags) == 0 &&
-           (status.st_mode & S_IFMT) == wanted;
-}
-
-bool IsFolder(int folder, const dirent64& entry) {
-    if (entry.d_type != DT_UNKNOWN) return entry.d_type == DT_DIR;
-    return HasMode(folder, entry, S_IFDIR, AT_SYMLINK_NOFOLLOW);
-}
-
-bool IsFile(int folder, const dirent64& entry) {
-    if (entry.d_type != DT_UNKNOWN && entry.d_type != DT_LNK) return entry.d_type == DT_REG;
-    return HasMode(folder, entry, S_IFREG, 0);
-}
-
-void Keep(FolderContents& contents, int folder, const dirent64& entry) {
-    const auto kind = KindOfName(entry.d_name);
-    if (kind == NameKind::Folder && IsFolder(folder, entry)) {
-        contents.Folders.emplace_back(entry.d_name);
-    } else if (kind == NameKind::MFile && IsFile(folder, entry)) {
-        contents.MFiles.emplace_back(entry.d_name);
-    }
-}
-
-/// Reads many entries with one system call: a scan spends most of its time here.
-void ReadEntries(const std::string& path, FolderContents& contents) {
-    alignas(dirent64) static char buffer[65536];
-    const int folder = open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (folder < 0) return;
-    while (true) {
-        const auto filled = getdents64(folder, buffer, sizeof buffer);
-        if (filled <= 0) break;
-        for (const char* at = buffer; at < buffer + filled;) {
-            const auto& entry = *reinterpret_cast<const dirent64*>(at);
-            Keep(contents, folder, entry);
-            at += entry.d_reclen;
-        }
-    }
-    close(folder);
-}
-
-#else
-
-void ReadEntries(const std::string& path, FolderContents& contents) {
-    namespace fs = std::filesystem;
-    std::error_code error;
-    for (fs::directory_iterator at(path, error); !error && at != fs::directory_iterator();
-         at.increment(error)) {
-        std::error_code none;
-        auto name = at->path().filename().string();
-        const auto kind = KindOfName(name);
-        if (kind == NameKind::Folder &&
-            at->symlink_status(none).type() == fs::file_type::directory) {
-            contents.Folders.push_back(std::move(name));
-        } else if (kind == NameKind::MFile && at->is_regular_file(none)) {
-            contents.MFiles.push_back(std::move(name));
-        }
-    }
-}
-
-#endif
-
-FolderContents ReadFolder(const std::string& path) {
-    FolderContents contents;
-    ReadEntries(path, contents);
-    std::sort(contents.Folders.begin(), contents.Folders.end());
-    std::sort(contents.MFiles.begin(), contents.MFiles.end());
-    return contents;
-}
-
-/// `path` ends in a separator; it is the same text all the way down, and comes back as it was.
-void ScanFolders(std::string& path, const std::vector<std::string>& folders) {
-    const auto length = path.size();
-    for (const auto& name : folders) {
-        path += name;
-        if (std::find(std::begin(kernelTrees), std::end(kernelTrees), path) ==
-            std::end(kernelTrees)) {
-            DirectoryList.Append({path, {}});
-            path = JoinPath(path, "");
-            auto contents = ReadFolder(path);
-            DirectoryList[DirectoryList.UpperBound()].MFiles = std::move(contents.MFiles);
-            ScanFolders(path, contents.Folders);
-        }
-        path.resize(length);
+void AppendTree(std::vector<FolderOfTree>& tree, std::size_t at) {
+    for (const auto inner : tree[at].Inner) {
+        DirectoryList.Append({tree[inner].Path, std::move(tree[inner].MFiles)});
+        AppendTree(tree, inner);
     }
 }
 
@@ -192,13 +87,13 @@ void ResetMFileIndex() {
 }
 
 void ScanDirectory(const std::string& path) {
-    auto below = path;
-    ScanFolders(below, ReadFolder(path).Folders);
+    auto tree = ReadFolderTree(path, IsKernelTree);
+    AppendTree(tree, 0);
 }
 
 void WriteMFileIndex() {
     CategoryTable = GrowableArray<CategoryRecord>(1);
-    DirectoryList[1].MFiles = ReadFolder(".").MFiles;
+    DirectoryList[1].MFiles = MFilesIn(".");
     ShowProgress("Now writing directories.");
     std::string index;
     AddLine(index, "[Directories]");

@@ -115,6 +115,19 @@ private:
     std::vector<std::string> shown_;
 };
 
+/// So many folders are read by several threads.
+TEST_F(BrowserTest, AScanOfManyFoldersIsInOrder) {
+    std::string made, expected;
+    for (int i = 100; i < 400; ++i) {
+        const auto name = "f" + std::to_string(i);
+        made += name + "/" + name + ".m|" + name + "/in/g.m|";
+        expected += "@/" + name + "/" + name + ".m|@/" + name + "/in/g.m|";
+    }
+    Make(made);
+    frmPrefs.txtDrives.Text = "C";
+    EXPECT_NE(Scan().find(expected), std::string::npos);
+}
+
 TEST_F(BrowserTest, Table) { PlayTable("matlab_link/command_browser.tsv"); }
 
 }  // namespace quorvane::testing
