@@ -44,6 +44,16 @@ std::string Told(const EngineNews& last) {
     return last.Bytes.empty() ? "" : ". It said: " + Escaped(last.Bytes);
 }
 
+/// The boxes of the script that runs; only of a block there are several.
+std::string RunningBoxes() {
+    std::string names;
+    for (int i = 1; i <= MaxBoxes; ++i) {
+        if (linkReport.Of[i].State != BoxRun::Running) continue;
+        names += (names.empty() ? "" : ", ") + BoxName(i);
+    }
+    return names.find(',') == std::string::npos ? names : "one of " + names;
+}
+
 /// The console with an engine behind it.
 struct RunDesktop : ConsoleDesktop {
     EngineProcess Engine;
@@ -85,8 +95,7 @@ struct RunDesktop : ConsoleDesktop {
             !Answers.empty() && (Answers.front() == "cancel" || Answers.front() == "text" ||
                                  Answers.front().starts_with("text "));
         if (LinkIsBusy() && !isAnswered) {
-            throw RunStopped{RunBrokenOff, "box" + std::to_string(linkReport.Box) + " asks \"" +
-                                               Escaped(prompt) +
+            throw RunStopped{RunBrokenOff, RunningBoxes() + " asks \"" + Escaped(prompt) +
                                                "\", and no answer is left: put a line \"text ...\" "
                                                "into a file and name it with --answers"};
         }
@@ -184,10 +193,12 @@ std::string FinishRun(bool come) {
 /// Ctrl+C is for this program alone, which then sees to the engine. A reader that is gone is an
 /// output that can't be written.
 void WatchSignals() {
+#ifndef _WIN32
     struct sigaction action = {};
     action.sa_handler = [](int signal) { stopSignal = signal; };
     for (const int signal : {SIGINT, SIGTERM, SIGHUP}) ::sigaction(signal, &action, nullptr);
     std::signal(SIGPIPE, SIG_IGN);
+#endif
 }
 
 }  // namespace

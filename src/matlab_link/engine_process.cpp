@@ -50,7 +50,7 @@ EngineProcess::~EngineProcess() { End(0); }
 
 #ifdef _WIN32
 
-// A command line that runs diagrams is for systems with process groups.
+// Running diagrams from the command line is for systems with process groups.
 void EngineProcess::Start(const std::vector<std::string>&) { throw RuntimeError(53); }
 EngineNews EngineProcess::Wait() { return {.Bytes = "", .Ended = true}; }
 void EngineProcess::Signal(int) const {}
@@ -95,6 +95,7 @@ void Close(int& file) {
     ::dup2(input, STDIN_FILENO);
     ::dup2(output, STDOUT_FILENO);
     std::vector<char*> words;
+    words.reserve(command.size() + 1);
     for (const auto& word : command) words.push_back(const_cast<char*>(word.c_str()));
     words.push_back(nullptr);
     ::execvp(words[0], words.data());
