@@ -178,7 +178,8 @@ void EngineProcess::Bury(EngineNews& news) {
     // As much as a pipe may hold; what still prints by then is none of ours.
     for (int reads = 0; reads < 16 && output_ >= 0; ++reads) ReadMore(news.Bytes);
     int status = 0;
-    ::waitpid(static_cast<pid_t>(process_), &status, 0);
+    while (::waitpid(static_cast<pid_t>(process_), &status, 0) < 0 && errno == EINTR) {
+    }
     process_ = 0;
     Close(input_);
     Close(output_);
