@@ -10,7 +10,7 @@ namespace quorvane {
 /// How a diagram is run.
 struct EngineChoice {
     std::string Command;  ///< Starts an engine, perhaps elsewhere; "" for an Octave on the PATH
-    int StartLimit = 60;  ///< Seconds that it may take to become ready, 0 for any time
+    unsigned StartLimit = 60;  ///< Seconds that it may take to become ready, 0 for any time
 };
 
 /// Runs the loaded diagram box by box in an engine, with the transcript and the answers of

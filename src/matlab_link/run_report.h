@@ -8,6 +8,7 @@
 
 #include "diagram/box_table.h"
 #include "generator/link_door.h"
+#include "platform/runtime_error.h"
 
 namespace quorvane {
 
@@ -30,6 +31,23 @@ struct BoxAsRun {
     CheckedArray<std::int16_t, 1, 3> In;
 };
 
+/// One for each box, from 1 on. There are none before the first is asked for, so that a program
+/// that never runs anything starts without them. An index outside raises error 9.
+template <class T>
+class OneForEachBox {
+public:
+    T& operator[](int box) {
+        if (box < 1 || box > MaxBoxes) throw RuntimeError(9);
+        if (all_.empty()) all_.resize(MaxBoxes);
+        return all_[static_cast<std::size_t>(box - 1)];
+    }
+    auto begin() const { return all_.begin(); }
+    auto end() const { return all_.end(); }
+
+private:
+    std::vector<T> all_;
+};
+
 /// What the last run into MATLAB left, written by the link. A script of several boxes, which is a
 /// block, is run when its last box has been sent.
 struct LinkReport {
@@ -40,8 +58,8 @@ struct LinkReport {
     int Runs = 0;              ///< How many runs have begun
     /// By the numbers that the boxes had in the run; ReportOf (workbench/run_report.h) follows them
     /// to those of today.
-    CheckedArray<BoxReport, 1, MaxBoxes> Of;
-    CheckedArray<BoxAsRun, 1, MaxBoxes> Ran;
+    OneForEachBox<BoxReport> Of;
+    OneForEachBox<BoxAsRun> Ran;
 };
 extern LinkReport linkReport;
 
