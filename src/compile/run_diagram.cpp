@@ -218,7 +218,8 @@ int RunDiagram(const ConsoleDesktop& console, const EngineChoice& choice) {
         run.Engine.End(EndMilliseconds);
         return code;
     } catch (const RunStopped& stopped) {
-        run.Engine.Stop();
+        // An engine that asks is idle.
+        stopped.Code == RunBrokenOff ? run.Engine.End(EndMilliseconds) : run.Engine.Stop();
         if (!stopped.Why.empty()) WriteLine("quorvane-compile: " + stopped.Why);
         return stopped.Code;
     }
