@@ -60,8 +60,8 @@ int Join(Drawing& drawing) {
 
 Drawing AnyDrawing() {
     Drawing drawing;
-    for (int n = 2 + Any(16); n > 0; --n) drawing.push_back(NewBox(drawing));
-    for (int n = Any(30); n > 0; --n) Join(drawing);
+    for (int n = 2 + Any(12); n > 0; --n) drawing.push_back(NewBox(drawing));
+    for (int n = Any(24); n > 0; --n) Join(drawing);
     return drawing;
 }
 
