@@ -81,12 +81,13 @@ void QuickPopup::Find() {
         if (row.Picture > 0) item->setIcon(CellOnPaper(row.Picture, FaceSide, devicePixelRatioF()));
     }
     if (rows_.empty() && !text_->text().isEmpty()) {
-        (new QListWidgetItem("Nothing fits", list_))->setFlags(Qt::NoItemFlags);
+        (new QListWidgetItem("Nothing fits", list_))->setFlags(Qt::ItemIsEnabled);
     }
     list_->setCurrentRow(rows_.empty() ? -1 : 0);
     list_->setVisible(list_->count() > 0);
     list_->setFixedHeight(qMin(list_->count(), RowsShown) * (FaceSide + 4) + 4);
-    adjustSize();
+    layout()->activate();
+    resize(width(), sizeHint().height());
 }
 
 /// A command may show a dialog, which waits until this window has gone.
