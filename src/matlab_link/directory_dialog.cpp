@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "platform/desktop.h"
 #include "platform/numbers.h"
 #include "platform/paths.h"
 #include "platform/runtime_error.h"
@@ -15,6 +16,9 @@ namespace fs = std::filesystem;
 DirectoryForm frmDirectory;
 
 namespace {
+
+constexpr auto StoreSection = "Engine";
+constexpr auto StoreKey = "Folder";
 
 /// Runs an action with each entry of the current directory; what can't be read has none.
 template <class Action>
@@ -68,7 +72,66 @@ void AcceptByItself() {
     frmDirectory_cmdOK_Click();
 }
 
+/// Goes to a folder; the engine of this folder stands selected.
+void GoTo(const std::string& folder) {
+    ChangeDirectory(folder);
+    frmDirectory.director.Text = CurrentDirectory();
+    frmDirectory.Dir1.List = WaysOn();
+    const auto& engines = frmDirectory.Engines;
+    const auto at = std::find_if(engines.begin(), engines.end(), [](const FoundEngine& engine) {
+        return engine.Folder == frmDirectory.director.Text;
+    });
+    frmDirectory.lstEngines.ListIndex =
+        at == engines.end() ? -1 : static_cast<int>(at - engines.begin());
+}
+
+std::string FolderOfTyped(const std::string& path) {
+    std::error_code error;
+    const fs::path typed(path);
+    const bool isProgram =
+        fs::is_regular_file(typed, error) && typed.parent_path().filename() == "bin";
+    return isProgram ? typed.parent_path().parent_path().string() : path;
+}
+
 }  // namespace
+
+void frmDirectory_OfferEngines() {
+    auto& engines = frmDirectory.Engines;
+    engines = FindEngines(desktop->WherePrograms());
+    const auto last = EngineIn(desktop->ReadStore(StoreSection, StoreKey));
+    auto known = std::find_if(engines.begin(), engines.end(), [&](const FoundEngine& engine) {
+        return engine.Folder == last.Folder;
+    });
+    if (known == engines.end() && !last.Name.empty()) known = engines.insert(engines.begin(), last);
+    for (const auto& engine : engines) {
+        frmDirectory.lstEngines.List.push_back(engine.Name + " in " + engine.Folder);
+    }
+    frmDirectory.lblEngines.Visible = frmDirectory.lstEngines.Visible = !engines.empty();
+    if (known == engines.end()) return;
+    frmDirectory.lstEngines.ListIndex = static_cast<int>(known - engines.begin());
+    frmDirectory_lstEngines_Click();
+}
+
+void frmDirectory_lstEngines_Click() {
+    const int row = frmDirectory.lstEngines.ListIndex;
+    if (row < 0 || row >= static_cast<int>(frmDirectory.Engines.size())) return;
+    frmDirectory.txtPath.Text = frmDirectory.Engines[static_cast<std::size_t>(row)].Folder;
+    frmDirectory_txtPath_Change();
+}
+
+void frmDirectory_txtPath_Change() {
+    const auto folder = FolderOfTyped(frmDirectory.txtPath.Text);
+    frmDirectory.IsPicked = true;
+    frmDirectory.director.Text = folder;
+    frmDirectory.lstEngines.ListIndex = -1;
+    // The beginning of a relative path would lead astray.
+    if (!fs::path(folder).is_absolute() || !Attempt([&] { GoTo(folder); })) return;
+    frmDirectory.Dir1.Text = frmDirectory.director.Text;
+}
+
+void RememberEngine(const std::string& folder) {
+    desktop->WriteStore(StoreSection, StoreKey, folder);
+}
 
 void frmDirectory_Load() {
     frmDirectory = {};
@@ -80,6 +143,7 @@ void frmDirectory_Load() {
     }
     frmDirectory.Dir1.Text = frmDirectory.director.Text;
     frmDirectory.Dir1.List = WaysOn();
+    frmDirectory.txtPath.Text = frmDirectory.director.Text;
 }
 
 void frmDirectory_Drive1_Change() {
@@ -90,11 +154,11 @@ void frmDirectory_Drive1_Change() {
 
 void frmDirectory_Dir1_Change() {
     auto& path = frmDirectory.Dir1.Text;
-    if (!Attempt([&] { ChangeDirectory(path); })) return;
-    frmDirectory.director.Text = CurrentDirectory();
+    if (!Attempt([&] { GoTo(path); })) return;
+    frmDirectory.IsPicked = false;
+    frmDirectory.txtPath.Text = frmDirectory.director.Text;
     // A path that is being typed stays as it is, so that the user can go on typing.
     if (!fs::path(path).is_absolute()) path = frmDirectory.director.Text;
-    frmDirectory.Dir1.List = WaysOn();
     AcceptByItself();
 }
 
@@ -104,6 +168,9 @@ Form frmDirectory_Table() {
     return {"frmDirectory",
             &frmDirectory.Form,
             {{"lblTop", &frmDirectory.lblTop},
+             {"lblEngines", &frmDirectory.lblEngines},
+             {"lstEngines", &frmDirectory.lstEngines, frmDirectory_lstEngines_Click},
+             {"txtPath", &frmDirectory.txtPath, frmDirectory_txtPath_Change},
              {"Drive1", &frmDirectory.Drive1, frmDirectory_Drive1_Change},
              {"Dir1", &frmDirectory.Dir1, frmDirectory_Dir1_Change},
              {"director", &frmDirectory.director},

@@ -2,10 +2,10 @@
 #include "matlab_link/start_matlab.h"
 
 #include <string>
-#include <vector>
 
 #include "diagram/preferences.h"
 #include "matlab_link/directory_dialog.h"
+#include "matlab_link/find_engines.h"
 #include "matlab_link/link.h"
 #include "platform/desktop.h"
 #include "platform/paths.h"
@@ -15,25 +15,21 @@ namespace quorvane {
 
 namespace {
 
-// Programs in "bin"; the first one that exists is started.
-#ifdef _WIN32
-const std::vector<std::string> programs = {"matlab.exe"};
-#else
-const std::vector<std::string> programs = {"matlab", "octave-cli", "octave"};
-#endif
-
 /// Error 53 when none of the programs is there.
 std::string FindProgram(const std::string& folder) {
-    for (const auto& name : programs) {
+    for (const auto& name : enginePrograms) {
         auto path = FindInFolder(folder, name);
         if (Attempt([&] { FileAttributes(path); })) return path;
     }
     throw RuntimeError(53);
 }
 
+/// False, with a message, when the statement fails.
 template <class Statement>
-void ReportFailure(Statement&& statement) {
-    if (!Attempt(statement)) Tell("Sorry, Matlab excutable still not found.", Icon::None);
+bool ReportFailure(Statement&& statement) {
+    const bool isDone = Attempt(statement);
+    if (!isDone) Tell("Sorry, Matlab excutable still not found.", Icon::None);
+    return isDone;
 }
 
 }  // namespace
@@ -41,17 +37,20 @@ void ReportFailure(Statement&& statement) {
 void mnuFileStartMatlab_Click() {
     frmDirectory_Load();
     frmDirectory.lblTop.Caption = "Please locate the Matlab directory";
+    frmDirectory_OfferEngines();
     desktop->ShowModal("frmDirectory");
     const auto folder = frmDirectory.director.Text;
+    const bool isPicked = frmDirectory.IsPicked;
     frmDirectory = {};
     if (folder.empty()) {
         Tell("Sorry, cannot continue without the Matlab path.", Icon::Critical);
         return;
     }
     const auto bin = JoinPath(folder, "bin");
-    auto program = JoinPath(bin, programs.front());
+    auto program = JoinPath(bin, enginePrograms.front());
     ReportFailure([&] { program = FindProgram(bin); });
-    ReportFailure([&] { StartLink(program); });
+    const bool isStarted = ReportFailure([&] { StartLink(program); });
+    if (isStarted && isPicked) RememberEngine(folder);
     Attempt([] { ChangeDirectory(ProgramDirectory); });
 }
 

@@ -68,6 +68,8 @@ struct ComboBox {
 struct ListBox {
     std::vector<std::string> List;
     int ListIndex = -1;  ///< The selected entry, from 0; -1 for none
+    bool Visible = true;
+    bool Needed = true;  ///< While nothing is selected Enter doesn't press OK
 };
 
 struct PictureBox {

@@ -30,6 +30,12 @@ struct EngineNews {
     int Code = 0;
 };
 
+/// Where programs may be installed.
+struct ProgramPlaces {
+    std::vector<std::string> Folders;  ///< In which programs themselves lie
+    std::vector<std::string> Roots;    ///< In or below which there are folders with a "bin"
+};
+
 /// All that the program asks of the desktop it runs on. It is the one door out of the core, to the
 /// application's window system, the command line, or a test.
 struct Desktop {
@@ -72,6 +78,7 @@ struct Desktop {
     /// was started before. It ends with this program. Error 53 when it can't be started.
     virtual void StartEngine(const std::string& program,
                              const std::vector<std::string>& arguments) = 0;
+    virtual ProgramPlaces WherePrograms() = 0;
     virtual bool EngineRuns() = 0;
     virtual void WriteEngine(const std::string& bytes) = 0;
     /// Waits until the engine has printed something or is gone, Escape was pressed or a fifth of a

@@ -40,6 +40,7 @@ struct QuietDesktop : Desktop {
     void StartEngine(const std::string&, const std::vector<std::string>&) override {
         throw RuntimeError(53);
     }
+    ProgramPlaces WherePrograms() override { return {}; }
     bool EngineRuns() override { return false; }
     void WriteEngine(const std::string&) override {}
     EngineNews WaitForEngine() override { return {.Bytes = "", .Ended = true}; }

@@ -16,6 +16,22 @@ protected:
                  frmDirectory.Dir1.Text = InFolder(a.Text);
                  frmDirectory_Dir1_Change();
              })},
+            {"type", Step([this](A a) {
+                 frmDirectory.txtPath.Text = InFolder(a.Text);
+                 frmDirectory_txtPath_Change();
+             })},
+            {"pick", Step([](A a) {
+                 frmDirectory.lstEngines.ListIndex = a[0];
+                 frmDirectory_lstEngines_Click();
+             })},
+            {"picked", Global(frmDirectory.lstEngines.ListIndex)},
+            {"offered", Seen([this](A) {
+                 return Replaced(Show(frmDirectory.lstEngines.List), InFolder("$"), "$");
+             })},
+            {"places", Step([this](A a) {
+                 const auto both = Split(a.Text, ' ');
+                 screen.Places = {{InFolder(both.at(0))}, {InFolder(both.at(1))}};
+             })},
             {"gone", Step([](A) { std::filesystem::remove_all(CurrentDirectory()); })},
             {"load", Step([](A) { frmDirectory_Load(); })},
             {"path", Seen([this](A) { return Here(frmDirectory.Dir1.Text); })},

@@ -34,6 +34,7 @@ struct ScriptedDesktop : QuietDesktop {
     std::vector<std::string> HelpCommands;  ///< File, "|", code
     std::vector<std::string> Processes;     ///< Started programs
     bool ProcessesFail = false;
+    ProgramPlaces Places;  ///< Where engines are looked for
     std::vector<std::string> Sent;  ///< What went to MATLAB
     std::vector<LineBoxes> SentBoxes;
     std::string Reply;             ///< What each request gets
@@ -78,6 +79,7 @@ struct ScriptedDesktop : QuietDesktop {
         HelpCommands.push_back(file + "|" + std::to_string(command));
     }
     /// The engine is there, but any script ends it.
+    ProgramPlaces WherePrograms() override { return Places; }
     void StartEngine(const std::string& path, const std::vector<std::string>&) override {
         if (ProcessesFail) throw RuntimeError(53);
         Processes.push_back(path);

@@ -6,6 +6,7 @@
 #include <QClipboard>
 #include <QColorDialog>
 #include <QDialogButtonBox>
+#include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QLayout>
@@ -273,6 +274,19 @@ void QtDesktop::Help(const std::string& file, int command) { RunHelpCommand(file
 
 // Not quit(): that would ask the windows once more, and the frame closes by its own rules.
 void QtDesktop::EndProgram() { QCoreApplication::exit(0); }
+
+ProgramPlaces QtDesktop::WherePrograms() {
+    ProgramPlaces places;
+    for (const auto& folder : qEnvironmentVariable("PATH").split(QDir::listSeparator())) {
+        if (QDir::isAbsolutePath(folder)) places.Folders.push_back(ToCore(folder));
+    }
+#ifdef _WIN32
+    places.Roots = {"C:/Program Files"};
+#else
+    places.Roots = {"/usr", "/usr/local", "/opt"};
+#endif
+    return places;
+}
 
 void QtDesktop::StartEngine(const std::string& program, const std::vector<std::string>& arguments) {
     QStringList list;

@@ -23,6 +23,7 @@ struct QtDesktop : Desktop {
     void PaintNow() override;
     void Help(const std::string& file, int command) override;
     void EndProgram() override;
+    ProgramPlaces WherePrograms() override;
     void StartEngine(const std::string& program,
                      const std::vector<std::string>& arguments) override;
     bool EngineRuns() override;

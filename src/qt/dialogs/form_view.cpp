@@ -165,6 +165,7 @@ void Show(const ListBox& record, QWidget* control) {
     model->Show(record.List);
     const auto selected = model->index(record.ListIndex);
     if (view->currentIndex() != selected) view->setCurrentIndex(selected);
+    control->setVisible(record.Visible);
 }
 
 void Show(const PictureBox& record, QWidget* control) {
@@ -233,11 +234,11 @@ void NameControl(FormView& view, const ControlRow& row) {
     if (auto* control = view.findChild<QWidget*>(inLayout)) control->setObjectName(name);
 }
 
-/// True when the form has a list that nothing is selected in.
+/// True when nothing is selected in a list that needs it.
 bool LacksSelection(const Form& form) {
     for (const auto& row : form.Controls) {
         const auto* list = std::get_if<ListBox*>(&row.Record);
-        if (list && (*list)->ListIndex < 0) return true;
+        if (list && (*list)->Needed && (*list)->ListIndex < 0) return true;
     }
     return false;
 }
