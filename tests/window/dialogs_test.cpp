@@ -59,18 +59,6 @@ TEST_F(DialogWindows, EachDialogMakesItsBox) {
     }
 }
 
-TEST_F(DialogWindows, EveryCommandWithoutADialogMakesItsBox) {
-    for (const auto& command : boxCommands) {
-        if (!MakesBox(command) || command.Dialog.starts_with("frm")) continue;
-        const int box = NextBox;
-        if (!command.Dialog.empty()) Answers = {TypeIn("x")};
-        Place(ToScreen(command.Control), {30 + box * 8, 60});
-        ASSERT_TRUE(NextBox == box + 1 && Answers.empty()) << command.Control;
-        EXPECT_NE(Boxes[box].BoxType, "");
-        EXPECT_GT(DocumentWindow(1).box[box].Picture, 0);
-    }
-}
-
 TEST_F(DialogWindows, OkGivesTheFocusToTheWorksheetOfTheCommand) {
     Choose("mnuFileNew");
     Choose("mnuWindowsTile");
