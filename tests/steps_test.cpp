@@ -148,6 +148,8 @@ private:
                  return Reals{c.Left, c.Top, c.Width, c.Height, double(c.Picture)};
              })},
             {"frmPageView.Surface", Seen([](A) { return frmPageView.Surface; })},
+            {"frmPageView.Page", Seen([](A) { return frmPageView.Page; })},
+            {"frmPageView.Seen", Seen([](A) { return frmPageView.Seen; })},
             {"frmPageView.pnl", Seen([](A) { return frmPageView.pnl; })},
             {"frmPageView.cmdOK", Seen([](A) { return frmPageView.cmdOK; })},
         };

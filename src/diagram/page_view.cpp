@@ -56,6 +56,9 @@ void mnuPageView_Click(Worksheet& sheet) {
     const double scaleY = (frmPageView.Height - frmPageView.pnl.Height - 1800) / PageBottom;
     AddBoxes(scaleX, scaleY);
     AddArrows();
+    frmPageView.Page = {0, 0, PageRight * scaleX, PageBottom * scaleY};
+    frmPageView.Seen = {sheet.scrH.Value * scaleX, sheet.scrV.Value * scaleY,
+                        sheet.scrV.Place.Left * scaleX, sheet.scrH.Place.Top * scaleY};
     desktop->ShowModal("frmPageView");
     desktop->FocusWorksheet(DocumentNumber(sheet));
 }

@@ -19,6 +19,8 @@ struct PageViewForm {
     Area cmdOK = {0, 112, 1068, 375};  ///< On pnl
     ControlArray<BoxControl> box;      ///< At the box's own number
     std::vector<DrawnShape> Surface;
+    Area Page;  ///< The extent of the sheet
+    Area Seen;  ///< The part of it that its worksheet shows, at its plain scale
 };
 extern PageViewForm frmPageView;
 

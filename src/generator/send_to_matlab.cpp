@@ -2,6 +2,7 @@
 #include "generator/send_to_matlab.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "diagram/worksheet.h"
 #include "generator/compile_document.h"
@@ -73,6 +74,27 @@ int BoxesToRun(const Worksheet& sheet) {
     return static_cast<int>(std::count_if(Boxes.begin() + 1, Boxes.begin() + NextBox, isRun));
 }
 
+/// The box whose part of the log this is; what comes after the last part has none.
+int BoxOfLog(std::size_t at) {
+    const auto& parts = frmTextResults.Parts;
+    const auto part = std::find_if(parts.begin(), parts.end(),
+                                   [at](const LogPart& each) { return at < each.End; });
+    return part == parts.end() ? 0 : part->Box;
+}
+
+/// Cuts "box4: " off a line; 0 where it doesn't begin so.
+int TakeBoxName(std::string_view& line) {
+    constexpr std::string_view box = "box";
+    const auto colon = line.find(": ");
+    if (!line.starts_with(box) || colon == std::string_view::npos) return 0;
+    int number = 0;
+    const auto digits = line.substr(box.size(), colon - box.size());
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    if (read.ec != std::errc() || read.ptr != digits.data() + digits.size()) return 0;
+    line.remove_prefix(colon + 2);
+    return number;
+}
+
 void GiveUp() {
     ClearMarks();
     Tell("DDE Error. Could not compile. Try compiling to the clipboard.", Icon::Information);
@@ -96,6 +118,21 @@ void mnuEXEMatlab_Click(Worksheet& sheet) {
     matlabLink.Begin(BoxesToRun(sheet));
     CompileDocument(0, sheet.Tag);
     frmTextResults.txt.Text += matlabLink.Finish(lastRunEnd == RunEnd::Done);
+}
+
+std::vector<LogFault> FaultsOfLog(std::size_t from) {
+    const std::string_view log = frmTextResults.txt.Text;
+    std::vector<LogFault> faults;
+    while (from < log.size()) {
+        const auto end = std::min(log.find_first_of("\r\n", from), log.size());
+        auto line = log.substr(from, end - from);
+        const int named = TakeBoxName(line);
+        if (line.starts_with("error: ") || line.starts_with("parse error")) {
+            faults.push_back({from, end, named > 0 ? named : BoxOfLog(from)});
+        }
+        from = end + 1;
+    }
+    return faults;
 }
 
 std::string FoldFirstPlot(std::string_view script) {
@@ -151,6 +188,8 @@ bool SendToMatlab(Run& run, std::string_view boxType) {
     run.Policy = ErrorPolicy::Ignore;
     Request(receiver);
     frmTextResults.txt.Text += run.scriptText + receiver.Text;
+    frmTextResults.Parts.push_back(
+        {frmTextResults.txt.Text.size(), run.boxOfLine.empty() ? 0 : run.boxOfLine.back()});
     receiver.Text.clear();
     sender.Text.clear();
     run.scriptText.clear();

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "shell/tour.h"
 
+#include <algorithm>
 #include <iterator>
 
 #include "platform/numbers.h"
@@ -78,6 +79,13 @@ void pnlTour_Click(Worksheet& sheet) {
         EndTour(sheet);
     }
     TourStep = ToInt16(TourStep + 1);
+}
+
+std::string TourCount(const TourPanel& panel) {
+    const auto* const text = std::find(std::begin(TourTexts), std::end(TourTexts), panel.Caption);
+    if (text == std::end(TourTexts)) return "";
+    return NumberText(static_cast<int>(text - TourTexts) + 1) + " of " +
+           NumberText(static_cast<int>(std::size(TourTexts)));
 }
 
 }  // namespace quorvane

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <string>
 
 #include "diagram/worksheet.h"
 
@@ -15,5 +16,8 @@ extern std::int16_t TourStep;
 void mnuHelpTour_Click(Worksheet& sheet);
 /// Shows the text of the step and advances; after the last text the panel disappears.
 void pnlTour_Click(Worksheet& sheet);
+
+/// Which of the texts a panel shows, "3 of 10"; "" for the welcome before them.
+std::string TourCount(const TourPanel& panel);
 
 }  // namespace quorvane

@@ -43,6 +43,7 @@ protected:
                  return panel.Caption + (panel.Visible ? "" : "-");
              })},
             {"pnlTour_Click", Step([](A a) { pnlTour_Click(Sheet(a[0])); })},
+            {"count", Seen([](A a) { return TourCount(Sheet(a[0]).pnlTour); })},
             {"TourStep", Global(TourStep)},
         });
     }

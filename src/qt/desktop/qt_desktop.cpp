@@ -31,6 +31,7 @@
 #include "qt/frame/frame_view.h"
 #include "qt/frame/help_window.h"
 #include "qt/sheet/shape_painter.h"
+#include "qt/sheet/worksheet_view.h"
 #include "shell/forms.h"
 
 namespace quorvane {
@@ -224,7 +225,8 @@ void QtDesktop::ShowModal(std::string_view form) {
     RefreshScreen();
     const DialogScope lets;
     if (form == "frmPageView") {
-        PageViewDialog(Parent()).exec();
+        const auto* view = frameView ? frameView->ActiveView() : nullptr;
+        PageViewDialog(view ? view->Zoom() : 100, Parent()).exec();
         return;
     }
     if (form == "frmMatrix") {

@@ -20,6 +20,7 @@
 #include <QScrollBar>
 #include <QThread>
 #include <QTimer>
+#include <QVBoxLayout>
 #include <QWindow>
 #include <utility>
 
@@ -140,6 +141,18 @@ void ShowChoice(QComboBox* combo, const QString& text) {
     if (isTyped) line->setCursorPosition(caret);
 }
 
+/// Colours stand before their names, in a list whose layout asks for that.
+void ShowSwatches(QComboBox* combo) {
+    if (!combo->property("swatches").toBool()) return;
+    for (int i = 0; i < combo->count(); ++i) {
+        QPixmap swatch(16 * combo->devicePixelRatioF(), 16 * combo->devicePixelRatioF());
+        const auto name = combo->itemText(i).toLower();
+        swatch.fill(name == "green" ? QColor(Qt::green) : QColor(name));
+        QPainter(&swatch).drawRect(swatch.rect().adjusted(0, 0, -1, -1));
+        combo->setItemIcon(i, QIcon(swatch));
+    }
+}
+
 void Show(const ComboBox& record, QWidget* control) {
     if (auto* list = qobject_cast<QListWidget*>(control)) ShowList(record, list);
     auto* combo = qobject_cast<QComboBox*>(control);
@@ -151,6 +164,7 @@ void Show(const ComboBox& record, QWidget* control) {
     if (shown != items) {
         combo->clear();
         combo->addItems(items);
+        ShowSwatches(combo);
     }
     ShowChoice(combo, ToScreen(record.Text));
     combo->setEnabled(record.Enabled);
@@ -241,6 +255,32 @@ bool LacksSelection(const Form& form) {
         if (list && (*list)->Needed && (*list)->ListIndex < 0) return true;
     }
     return false;
+}
+
+/// Says in an empty list or label what will stand there, where its layout has words for it.
+void ShowEmptyText(QWidget* control) {
+    const auto words = control->property("emptyText").toString();
+    if (words.isEmpty()) return;
+    auto* view = qobject_cast<QListView*>(control);
+    auto* label = qobject_cast<QLabel*>(control);
+    QWidget* host = view ? view->viewport() : control;
+    auto* text = host->findChild<QLabel*>("emptyText");
+    if (!text) {
+        text = new QLabel(words, host);
+        text->setObjectName("emptyText");
+        text->setAlignment(Qt::AlignCenter);
+        text->setAttribute(Qt::WA_TransparentForMouseEvents);
+        auto* rows = new QVBoxLayout(host);
+        rows->addWidget(text);
+    }
+    const bool isEmpty = view ? view->model()->rowCount() == 0
+                              : label && label->text().isEmpty() && label->pixmap().isNull();
+    auto colors = host->palette();
+    auto faint = colors.color(QPalette::Text);
+    faint.setAlphaF(0.6F);
+    colors.setColor(QPalette::WindowText, faint);
+    text->setPalette(colors);
+    text->setVisible(isEmpty);
 }
 
 void TakeAll(const FormView& view, const Form& form) {
@@ -364,6 +404,7 @@ void FormView::Refresh() {
         if (!control) continue;
         const QSignalBlocker quiet(control);
         std::visit([&](auto* record) { Show(*record, control); }, row.Record);
+        ShowEmptyText(control);
     }
     if (const auto* list = FindOptionList(form_.Name)) ShowOptionTips(*list, this);
     if (form_.Surface) update();

@@ -15,6 +15,28 @@ namespace quorvane {
 
 namespace {
 
+constexpr QColor DeskColor(0xE4, 0xE6, 0xE8);
+constexpr QColor SeenColor(0x2A, 0x7B, 0xC8);
+constexpr QColor EdgeColor(0x9A, 0xA0, 0xA6);
+
+QRect InPixels(const Area& area, int zoom) {
+    const double units = UnitsPerPixel * zoom / 100.0;
+    return {qRound(area.Left / UnitsPerPixel), qRound(area.Top / UnitsPerPixel),
+            qRound(area.Width / units), qRound(area.Height / units)};
+}
+
+/// A hairline around what is too pale to be seen on the page.
+void PaintOutlines(QPainter& painter) {
+    constexpr int palest = 170;
+    std::vector<DrawnShape> pale;
+    for (auto shape : frmPageView.Surface) {
+        if (qGray(ColorOf(shape.Color).rgb()) < palest) continue;
+        shape.Color = ColorNumber(EdgeColor);
+        pale.push_back(shape);
+    }
+    PaintShapes(painter, pale, {}, 2);
+}
+
 /// A box at small scale; its edges needn't be on whole pixels.
 class PageBox : public QWidget {
 public:
@@ -47,7 +69,7 @@ private:
 
 }  // namespace
 
-PageViewDialog::PageViewDialog(QWidget* parent) : QDialog(parent) {
+PageViewDialog::PageViewDialog(int zoom, QWidget* parent) : QDialog(parent), zoom_(zoom) {
     setObjectName("frmPageView");
     setWindowTitle(ToScreen(frmPageView.Form.Caption));
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
@@ -77,7 +99,14 @@ PageViewDialog::PageViewDialog(QWidget* parent) : QDialog(parent) {
 
 void PageViewDialog::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), Qt::white);
+    painter.fillRect(rect(), DeskColor);
+    const auto page = InPixels(frmPageView.Page, 100);
+    painter.fillRect(page, Qt::white);
+    painter.setPen(EdgeColor);
+    painter.drawRect(page);
+    painter.setPen(QPen(SeenColor, 1, Qt::DashLine));
+    painter.drawRect(InPixels(frmPageView.Seen, zoom_) & page.adjusted(1, 1, -1, -1));
+    PaintOutlines(painter);
     PaintShapes(painter, frmPageView.Surface);
 }
 

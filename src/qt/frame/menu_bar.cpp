@@ -4,7 +4,11 @@
 #include <QMenu>
 #include <utility>
 
+#include "catalogue/box_commands.h"
+#include "catalogue/icon_table.h"
+#include "catalogue/option_lists.h"
 #include "qt/desktop/dispatch.h"
+#include "qt/desktop/icon_strip.h"
 #include "qt/desktop/screen_units.h"
 #include "shell/menus.h"
 
@@ -57,6 +61,29 @@ MenuSet MakeMenus(const std::vector<Row>& rows, QWidget* parent, Enabled enabled
     return set;
 }
 
+/// A command whose dialog decides on the picture shows that of its first option.
+int PictureOf(const BoxCommand& command) {
+    const auto* list = FindOptionList(command.Dialog);
+    if (command.Cell > 0 || !list) return command.Cell;
+    const auto& first = list->Options.front();
+    return IconCell(first.BoxType.empty() ? first.BoxText : first.BoxType);
+}
+
+/// Gives an entry its picture when its menu is opened first, since drawing all takes a while.
+void ShowPicture(QAction* action, int picture) {
+    auto* menu = qobject_cast<QMenu*>(action->parent());
+    if (!menu) menu = qobject_cast<QMenu*>(action->associatedObjects().value(0));
+    if (!menu || picture <= 0) return;
+    QObject::connect(menu, &QMenu::aboutToShow, action, [action, picture] {
+        if (!action->icon().isNull()) return;
+        constexpr int pixels = 18;
+        QIcon icon;
+        for (const qreal ratio : {1, 2}) icon.addPixmap(CellOnPaper(picture, pixels, ratio));
+        action->setIcon(icon);
+        action->setIconVisibleInMenu(true);
+    });
+}
+
 template <class Rows, class Records>
 void RefreshMenus(const MenuSet& set, const Rows& rows, const Records& records) {
     for (std::size_t i = 0; i < rows.size(); ++i) {
@@ -82,13 +109,18 @@ MenuSet MakeFrameMenus(QWidget* parent) {
 }
 
 MenuSet MakeDocumentMenus(QWidget* parent) {
-    return MakeMenus(
+    auto set = MakeMenus(
         documentMenu, parent, [](const DocumentMenuRow& row) { return HasCommand(row); },
         [](const DocumentMenuRow& row) {
             const int popped = std::exchange(poppedDocument, 0);
             const int document = popped > 0 ? popped : activeDocument;
             if (document > 0) RunMenuCommand(row, DocumentWindow(document));
         });
+    for (int i = 0; i < set.Actions.size(); ++i) {
+        const auto* command = FindBoxCommand(documentMenu[static_cast<std::size_t>(i)].Control);
+        if (command) ShowPicture(set.Actions[i], PictureOf(*command));
+    }
+    return set;
 }
 
 void RefreshFrameMenus(const MenuSet& set) { RefreshMenus(set, frameMenu, frmMDI); }

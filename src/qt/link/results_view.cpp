@@ -5,21 +5,58 @@
 #include <QFontDatabase>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QTextBlock>
 
+#include "diagram/box_table.h"
 #include "generator/send_to_matlab.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
 
 namespace quorvane {
 
+namespace {
+
+QColor FailureColor(const QPalette& palette) {
+    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
+    return isDark ? QColor(0xFF, 0x8A, 0x80) : QColor(0xB0, 0x1E, 0x1E);
+}
+
+/// The log. At the right edge of a line that tells of a failure stands the box that failed.
+class LogText : public QPlainTextEdit {
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        QPlainTextEdit::paintEvent(event);
+        QPainter painter(viewport());
+        painter.setPen(FailureColor(palette()));
+        for (auto block = firstVisibleBlock(); block.isValid(); block = block.next()) {
+            const auto place = blockBoundingGeometry(block).translated(contentOffset());
+            if (place.top() > viewport()->height()) return;
+            if (block.userState() > 0) PaintBox(painter, block.userState(), place.top());
+        }
+    }
+
+private:
+    void PaintBox(QPainter& painter, int number, double top) {
+        const auto name = ToScreen(BoxName(number));
+        const auto letters = fontMetrics();
+        QRect label(0, qRound(top), letters.horizontalAdvance(name) + 10, letters.height());
+        label.moveRight(viewport()->width() - 2);
+        painter.fillRect(label, palette().base());
+        painter.drawText(label, Qt::AlignCenter, name);
+    }
+};
+
+}  // namespace
+
 // A dialog, so that it stays above the frame.
 ResultsView::ResultsView(QWidget* frame)
     : QWidget(frame, Qt::Dialog | Qt::WindowMinMaxButtonsHint | Qt::WindowCloseButtonHint) {
     setObjectName("frmTextResults");
-    txt_ = new QPlainTextEdit;
+    txt_ = new LogText;
     txt_->setObjectName("txt");
     txt_->setAccessibleName("Matlab Text Results");
     txt_->setReadOnly(true);
@@ -75,11 +112,26 @@ void ResultsView::Grow() {
     }
     auto* bar = txt_->verticalScrollBar();
     const bool atEnd = bar->value() == bar->maximum();
-    QTextCursor end(txt_->document());
-    end.movePosition(QTextCursor::End);
-    end.insertText(ToScreen(std::string_view(log).substr(shown_.size())));
+    Append(shown_.size());
     shown_ = log;
     if (atEnd) bar->setValue(bar->maximum());
+}
+
+/// Appends the log behind this place. The line of a failure keeps the number of its box.
+void ResultsView::Append(std::size_t from) {
+    const std::string_view log = frmTextResults.txt.Text;
+    QTextCharFormat failing;
+    failing.setForeground(FailureColor(palette()));
+    failing.setFontWeight(QFont::Bold);
+    QTextCursor end(txt_->document());
+    end.movePosition(QTextCursor::End);
+    for (const auto& fault : FaultsOfLog(from)) {
+        end.insertText(ToScreen(log.substr(from, fault.Begin - from)), {});
+        end.insertText(ToScreen(log.substr(fault.Begin, fault.End - fault.Begin)), failing);
+        end.block().setUserState(fault.Box);
+        from = fault.End;
+    }
+    end.insertText(ToScreen(log.substr(from)), {});
 }
 
 void ResultsView::changeEvent(QEvent* event) {

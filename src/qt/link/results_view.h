@@ -21,6 +21,7 @@ protected:
 
 private:
     void Grow();
+    void Append(std::size_t from);
     void MoveIntoCorner();
 
     QPlainTextEdit* txt_;

@@ -2,6 +2,7 @@
 #include "qt/sheet/tour_view.h"
 
 #include <QKeyEvent>
+#include <QPainter>
 
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
@@ -15,6 +16,7 @@ constexpr int Widest = 440;
 constexpr int Padding = 12;
 constexpr int Gap = 16;  ///< Between the panel and the edges of the sheet
 constexpr int NarrowGap = 3;
+constexpr int CountPixels = 10;
 constexpr int SmallestPoints = 6;
 
 }  // namespace
@@ -59,6 +61,8 @@ void TourView::Refresh(const TourPanel& panel) {
     const auto sheet = parentWidget()->size();
     if (panel.Visible && (this->text() != text || fitted_ != sheet)) {
         setText(text);
+        count_ = ToScreen(TourCount(panel));
+        setAccessibleDescription(count_);
         Fit(sheet);
         fitted_ = sheet;
     }
@@ -68,6 +72,18 @@ void TourView::Refresh(const TourPanel& panel) {
         setVisible(panel.Visible);
         if (panel.Visible) setFocus();
     }
+}
+
+/// The count stands in the lower margin, which a low sheet doesn't leave.
+void TourView::paintEvent(QPaintEvent* event) {
+    QLabel::paintEvent(event);
+    if (count_.isEmpty() || margin() < Padding) return;
+    QPainter painter(this);
+    auto small = font();
+    small.setPixelSize(CountPixels);
+    painter.setFont(small);
+    painter.setPen(QColor(0x6A, 0x62, 0x30));
+    painter.drawText(rect().adjusted(0, 0, -Padding, -2), Qt::AlignRight | Qt::AlignBottom, count_);
 }
 
 void TourView::GoOn() {

@@ -15,6 +15,7 @@ public:
     void Refresh(const TourPanel& panel);
 
 protected:
+    void paintEvent(QPaintEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
@@ -24,7 +25,8 @@ private:
     void Fit(const QSize& sheet);
 
     int document_;
-    QSize fitted_;  ///< The sheet that the panel was last laid out for
+    QString count_;  ///< "3 of 10", in the frame
+    QSize fitted_;   ///< The sheet that the panel was last laid out for
 };
 
 }  // namespace quorvane
