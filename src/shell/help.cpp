@@ -21,6 +21,8 @@ std::string InProgramDirectory(const std::string& file) {
 const char* const Manual = "QUORVANE.HLP";
 std::string HelpFile = Manual;
 
+std::string ManualFile() { return InProgramDirectory(HelpFile); }
+
 void mnuHelpContents_Click() { desktop->Help(InProgramDirectory(Manual), Contents); }
 void mnuHelpHowTo_Click() { desktop->Help(InProgramDirectory(Manual), HowTo); }
 void mnuHelpSearch_Click() { desktop->Help(InProgramDirectory(Manual), PartialKey); }

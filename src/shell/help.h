@@ -12,6 +12,9 @@ namespace quorvane {
 extern std::string HelpFile;
 extern const char* const Manual;
 
+/// The path of the manual.
+std::string ManualFile();
+
 void mnuHelpContents_Click();
 void mnuHelpHowTo_Click();
 void mnuHelpSearch_Click();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "shell/help.h"
 #include "shell/about.h"
+#include "shell/forms.h"
+#include "shell/help_pages.h"
 
 #include <algorithm>
 #include <regex>
@@ -84,6 +86,22 @@ TEST(Manual, LinksAndPicturesLeadSomewhere) {
         const auto file = built ? icons / picture.substr(2) : ManualFolder / picture;
         EXPECT_TRUE(std::filesystem::exists(file)) << picture;
     }
+}
+
+/// F1 finds a page for each dialog, panel and type of box.
+TEST(Manual, HasAPageForEachDialogAndBox) {
+    const auto anchors = Found(ManualText(), R"re( (?:id|name)="(\w+)")re");
+    Texts windows = {"main", "frmMDI", "Picture1", "boxesPanel", "scriptPanel", "quickPopup"};
+    for (const auto& form : Forms()) windows.push_back(form.Name);
+    for (const auto& window : windows) {
+        if (window == "frmAbout" || window == "frmDisclaimer") continue;
+        EXPECT_TRUE(anchors.contains(std::string(HelpPageOf(window)))) << window;
+    }
+    EXPECT_EQ(HelpPageOf(""), "");
+    EXPECT_EQ(HelpPageOfType("Plot Output"), "plot");
+    EXPECT_EQ(HelpPageOfType("Unwrap"), "complex");
+    EXPECT_EQ(HelpPageOfType("my Subroutine"), "subroutine");
+    EXPECT_EQ(HelpPageOfType("unheard of"), "boxes");
 }
 
 }  // namespace

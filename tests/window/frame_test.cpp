@@ -31,6 +31,35 @@ TEST_F(FrameWindows, NothingStartsBehindADialog) {
     }
 }
 
+/// The page that the manual is open at, "" when it isn't, or is blocked by a dialog.
+std::string OpenPage(QWidget& frame) {
+    const auto* dialog = QApplication::activeModalWidget();
+    const auto* pages = frame.findChild<QTreeWidget*>("helpContents");
+    const bool isOpen = pages && pages->window()->isVisible();
+    if (!isOpen || (dialog && pages->window()->parentWidget() != dialog)) return "";
+    return pages->currentItem()->text(0).toStdString();
+}
+
+TEST_F(FrameWindows, F1OpensThePageOfWhatHasTheFocus) {
+    std::filesystem::copy(QUORVANE_SOURCE_DIR "/resources/help/QUORVANE.HLP", ".");
+    WriteAll("quorvane.ini", "[Prefrences]\r\n");
+    Start();
+    Choose("mnuFileNew");
+    Answers = {[&](QDialog& dialog) {
+        QTest::keyClick(dialog.focusWidget(), Qt::Key_F1);
+        EXPECT_EQ(OpenPage(Frame()), "Rounding");
+        Play("cmdOK")(dialog);
+    }};
+    Place("mnuOperatorsRound", {60, 50});
+    EXPECT_EQ(OpenPage(Frame()), "") << "it closes with its dialog";
+    Place("mnuTrigSin", {60, 150});
+    Box(2)->setFocus();
+    QTest::keyClick(Box(2), Qt::Key_F1);
+    EXPECT_EQ(OpenPage(Frame()), "Trigonometric functions");
+    QTest::keyClick(Frame().findChild<QWidget*>("Picture1"), Qt::Key_F1);
+    EXPECT_EQ(OpenPage(Frame()), "The bar");
+}
+
 TEST_F(FrameWindows, WorksheetsAreArrangedButForIcons) {
     for (int i = 0; i < 3; ++i) Choose("mnuFileNew");
     Window(2)->showMinimized();

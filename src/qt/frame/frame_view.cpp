@@ -26,6 +26,7 @@
 #include "qt/dialogs/form_view.h"
 #include "qt/frame/bar_view.h"
 #include "qt/frame/boxes_panel.h"
+#include "qt/frame/help_key.h"
 #include "qt/frame/script_panel.h"
 #include "qt/frame/sheet_keys.h"
 #include "qt/frame/splash_view.h"
@@ -151,6 +152,7 @@ FrameView::FrameView() {
     frameMenus_ = MakeFrameMenus(this);
     documentMenus_ = MakeDocumentMenus(this);
     AddSheetKeys(*this);
+    AddHelpKey(*this);
     connect(area_, &QMdiArea::subWindowActivated, this, &FrameView::Activated);
     RefreshScreen = [this] { Refresh(); };
     const auto screenArea = screen()->availableGeometry();

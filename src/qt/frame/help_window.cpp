@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "qt/frame/help_window.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QLabel>
@@ -13,6 +14,7 @@
 #include <QTextBrowser>
 #include <QToolBar>
 #include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
 
 #include "qt/desktop/screen_units.h"
 #include "qt/frame/frame_view.h"
@@ -125,6 +127,15 @@ void HelpWindow::FillContents() {
 
 void HelpWindow::ShowContents() { text_->moveCursor(QTextCursor::Start); }
 
+/// Choosing it in the contents scrolls to it.
+void HelpWindow::ShowPage(const QString& anchor) {
+    for (QTreeWidgetItemIterator at(contents_); *at; ++at) {
+        if ((*at)->data(0, Qt::UserRole) != anchor) continue;
+        contents_->setCurrentItem(*at);
+        return Read(*at);
+    }
+}
+
 void HelpWindow::ShowHowTo() { ShowText(HowToText); }
 
 void HelpWindow::ShowSearch() {
@@ -144,22 +155,43 @@ void HelpWindow::FindNext() {
     statusBar()->showMessage(QString("\"%1\" was not found in the help").arg(word));
 }
 
+namespace {
+
+/// False when the manual can't be read. A modal dialog blocks all windows but its own.
+bool OpenWindow(const std::string& file) {
+    auto* dialog = QApplication::activeModalWidget();
+    QWidget* parent = dialog ? dialog : frameView;
+    if (helpWindow && helpWindow->parentWidget() != parent) delete helpWindow;
+    if (!helpWindow) helpWindow = new HelpWindow(parent);
+    if (helpWindow->Open(file)) return true;
+    delete helpWindow;
+    return false;
+}
+
+void BringUp() {
+    helpWindow->show();
+    helpWindow->raise();
+    helpWindow->activateWindow();
+}
+
+}  // namespace
+
 void RunHelpCommand(const std::string& file, int command) {
     if (command == Quit) {
         delete helpWindow;
         return;
     }
-    if (!helpWindow) helpWindow = new HelpWindow(frameView);
-    if (!helpWindow->Open(file)) {
-        delete helpWindow;
-        return;
-    }
+    if (!OpenWindow(file)) return;
     if (command == HowTo) helpWindow->ShowHowTo();
     if (command == Contents) helpWindow->ShowContents();
-    helpWindow->show();
-    helpWindow->raise();
-    helpWindow->activateWindow();
+    BringUp();
     if (command == Search) helpWindow->ShowSearch();
+}
+
+void ShowHelpPage(const std::string& file, const QString& anchor) {
+    if (!OpenWindow(file)) return;
+    BringUp();
+    helpWindow->ShowPage(anchor);
 }
 
 }  // namespace quorvane

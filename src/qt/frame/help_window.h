@@ -18,6 +18,7 @@ public:
     /// Shows the manual; false when the file can't be read.
     bool Open(const std::string& file);
     void ShowContents();
+    void ShowPage(const QString& anchor);
     void ShowHowTo();
     void ShowSearch();
 
@@ -37,5 +38,9 @@ private:
 /// Passes a command of the program to the viewer, which is made when it is first needed. A file
 /// that can't be read is not reported.
 void RunHelpCommand(const std::string& file, int command);
+
+/// Opens the viewer at a page. Over a dialog it belongs to that, so that it can be read and
+/// scrolled, and closes with it.
+void ShowHelpPage(const std::string& file, const QString& anchor);
 
 }  // namespace quorvane
