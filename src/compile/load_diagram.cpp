@@ -10,6 +10,7 @@
 #include "files/document_file.h"
 #include "platform/file_table.h"
 #include "platform/numbers.h"
+#include "platform/paths.h"
 
 namespace quorvane {
 
@@ -39,8 +40,9 @@ std::string Fault(const std::string& path, const std::string& told) {
         "; take an earlier version of it, or open it in Quorvane, which shows ";
     const int read = BoxesRead();
     if (!lastLoad.Opened) {
-        return std::filesystem::exists(path) ? "It can't be read: it is no file, or closed to you"
-                                             : told + " Look at its name and its folder";
+        return std::filesystem::exists(SystemPath(path))
+                   ? "It can't be read: it is no file, or closed to you"
+                   : told + " Look at its name and its folder";
     }
     if (!lastLoad.HasCount) {
         return "line 1: not a Quorvane diagram, which begins with the number of its boxes";

@@ -72,6 +72,7 @@ int Compile(ConsoleDesktop& console, const Options& options) {
 }  // namespace
 
 int main(int argc, char** argv) {
+    KeepStandardBytes();
     Options options;
     if (const auto done = ReadOptions(argc, argv, options)) return *done;
     ConsoleDesktop console;

@@ -113,7 +113,7 @@ std::string PictureContradiction(const Options& options) {
         return Complaint(PictureOf(options.Picture, options.Diagrams[0]));
     }
     if (options.Picture.File.empty()) return "";
-    if (!options.Picture.File.ends_with('/')) {
+    if (!NamesFolder(options.Picture.File)) {
         return options.Picture.File +
                ": several diagrams are drawn into a folder: end its name with \"/\"";
     }

@@ -1,17 +1,20 @@
 // SPDX-License-Identifier: MIT
 #include "compile/picture.h"
 
-#include <filesystem>
-
 #include "compile/icon_files.h"
 #include "diagram/picture.h"
+#include "platform/paths.h"
 #include "workbench/picture_file.h"
 
 namespace quorvane {
 
+bool NamesFolder(const std::string& picture) {
+    return !picture.empty() && !SystemPath(picture).has_filename();
+}
+
 PictureOrder PictureOf(PictureOrder order, const std::string& diagram) {
-    if (order.File.ends_with('/')) {
-        order.File += std::filesystem::path(diagram).stem().string() + ".svg";
+    if (NamesFolder(order.File)) {
+        order.File += SystemPath(diagram).stem().string() + ".svg";
     }
     return order;
 }

@@ -16,6 +16,9 @@ struct PictureOrder {
     std::optional<double> Scale;
 };
 
+/// True for a file name that ends in a separator.
+bool NamesFolder(const std::string& picture);
+
 /// The order for one of several diagrams: "DIR/" becomes the file in that folder that is called as
 /// the diagram is, an SVG.
 PictureOrder PictureOf(PictureOrder order, const std::string& diagram);

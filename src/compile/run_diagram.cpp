@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "compile/options.h"
+#include "compile/output.h"
 #include "diagram/worksheet.h"
 #include "generator/compile_document.h"
 #include "generator/link_door.h"
@@ -204,6 +205,9 @@ void WatchSignals() {
 }  // namespace
 
 int RunDiagram(const ConsoleDesktop& console, const EngineChoice& choice) {
+    if (!EngineProcess::IsAvailable()) {
+        return Refuse("--run isn't there on Windows yet; compile the diagram and run the script");
+    }
     RunDesktop run(console);
     run.StartLimit = choice.StartLimit * 1000LL;
     desktop = &run;

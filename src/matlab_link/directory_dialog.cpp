@@ -87,7 +87,7 @@ void GoTo(const std::string& folder) {
 
 std::string FolderOfTyped(const std::string& path) {
     std::error_code error;
-    const fs::path typed(path);
+    const auto typed = SystemPath(path);
     const bool isProgram =
         fs::is_regular_file(typed, error) && typed.parent_path().filename() == "bin";
     return isProgram ? typed.parent_path().parent_path().string() : path;
@@ -125,7 +125,7 @@ void frmDirectory_txtPath_Change() {
     frmDirectory.director.Text = folder;
     frmDirectory.lstEngines.ListIndex = -1;
     // The beginning of a relative path would lead astray.
-    if (!fs::path(folder).is_absolute() || !Attempt([&] { GoTo(folder); })) return;
+    if (!SystemPath(folder).is_absolute() || !Attempt([&] { GoTo(folder); })) return;
     frmDirectory.Dir1.Text = frmDirectory.director.Text;
 }
 
@@ -158,7 +158,7 @@ void frmDirectory_Dir1_Change() {
     frmDirectory.IsPicked = false;
     frmDirectory.txtPath.Text = frmDirectory.director.Text;
     // A path that is being typed stays as it is, so that the user can go on typing.
-    if (!fs::path(path).is_absolute()) path = frmDirectory.director.Text;
+    if (!SystemPath(path).is_absolute()) path = frmDirectory.director.Text;
     AcceptByItself();
 }
 

@@ -39,7 +39,7 @@ std::string WithToken(std::string text, const std::string& token) {
 }
 
 bool WriteFile(const fs::path& path, const std::string& text) {
-    auto* file = std::fopen(path.c_str(), "wb");
+    auto* file = std::fopen(path.string().c_str(), "wb");
     const bool isWritten = file && std::fwrite(text.data(), 1, text.size(), file) == text.size() &&
                            std::fflush(file) == 0;
     if (file) std::fclose(file);

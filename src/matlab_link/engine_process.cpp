@@ -50,7 +50,7 @@ EngineProcess::~EngineProcess() { End(0); }
 
 #ifdef _WIN32
 
-// Running diagrams from the command line is for systems with process groups.
+bool EngineProcess::IsAvailable() { return false; }
 void EngineProcess::Start(const std::vector<std::string>&) { throw RuntimeError(53); }
 EngineNews EngineProcess::Wait() { return {.Bytes = "", .Ended = true}; }
 void EngineProcess::Signal(int) const {}
@@ -58,6 +58,8 @@ void EngineProcess::End(int) {}
 void EngineProcess::Stop() {}
 
 #else
+
+bool EngineProcess::IsAvailable() { return true; }
 
 namespace {
 

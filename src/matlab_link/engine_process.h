@@ -18,6 +18,9 @@ public:
     EngineProcess& operator=(const EngineProcess&) = delete;
     ~EngineProcess();
 
+    /// False on Windows, where no engine can be started this way yet.
+    static bool IsAvailable();
+
     /// Starts a command, found on the PATH, in place of the running one. Error 53 when it can't be
     /// started.
     void Start(const std::vector<std::string>& command);

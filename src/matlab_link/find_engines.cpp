@@ -73,7 +73,7 @@ void Add(std::vector<FoundEngine>& engines, const std::string& folder) {
     auto engine = EngineIn(folder);
     const bool isKnown = std::any_of(engines.begin(), engines.end(), [&](const auto& known) {
         std::error_code error;
-        return fs::equivalent(known.Folder, folder, error);
+        return fs::equivalent(SystemPath(known.Folder), SystemPath(folder), error);
     });
     if (!engine.Name.empty() && !isKnown) engines.push_back(std::move(engine));
 }
@@ -94,22 +94,24 @@ void AddBelow(std::vector<FoundEngine>& engines, const fs::path& root) {
 FoundEngine EngineIn(const std::string& folder) {
     for (const auto& program : enginePrograms) {
         std::error_code error;
-        const auto path = fs::path(folder) / "bin" / program;
-        if (fs::is_regular_file(path, error)) return {folder, NameOf(program, folder)};
+        const auto place = SystemPath(folder);
+        if (!fs::is_regular_file(place / "bin" / program, error)) continue;
+        return {folder, NameOf(program, place)};
     }
     return {folder, ""};
 }
 
 std::vector<FoundEngine> FindEngines(const ProgramPlaces& places) {
     std::vector<FoundEngine> engines;
-    for (const fs::path folder : places.Folders) {
+    for (const auto& name : places.Folders) {
+        const auto folder = SystemPath(name);
         for (const auto& program : enginePrograms) {
             std::error_code error;
             if (folder.filename() != "bin" || !fs::exists(folder / program, error)) continue;
             Add(engines, FolderOfProgram(folder / program));
         }
     }
-    for (const auto& root : places.Roots) AddBelow(engines, root);
+    for (const auto& root : places.Roots) AddBelow(engines, SystemPath(root));
     return engines;
 }
 

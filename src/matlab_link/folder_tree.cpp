@@ -86,8 +86,8 @@ void ReadEntries(const std::string& path, FolderContents& contents) {
 void ReadEntries(const std::string& path, FolderContents& contents) {
     namespace fs = std::filesystem;
     std::error_code error;
-    for (fs::directory_iterator at(path, error); !error && at != fs::directory_iterator();
-         at.increment(error)) {
+    for (fs::directory_iterator at(SystemPath(path), error);
+         !error && at != fs::directory_iterator(); at.increment(error)) {
         std::error_code none;
         auto name = at->path().filename().string();
         const auto kind = KindOfName(name);

@@ -10,11 +10,15 @@
 #include <vector>
 
 #include "platform/numbers.h"
+#include "platform/paths.h"
 #include "platform/runtime_error.h"
 
-#if __has_include(<unistd.h>)
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#include <sys/stat.h>
+#else
 #include <unistd.h>
-#define QUORVANE_HAS_FSYNC 1
 #endif
 
 namespace quorvane {
@@ -58,8 +62,8 @@ OpenFile& Opened(int number) {
 /// goes where the link points.
 fs::path Resolved(const std::string& path) {
     std::error_code error;
-    auto resolved = fs::absolute(path, error);
-    if (error) return path;
+    auto resolved = fs::absolute(SystemPath(path), error);
+    if (error) return SystemPath(path);
     constexpr int longestChain = 40;
     for (int i = 0; i < longestChain && fs::is_symlink(fs::symlink_status(resolved, error)); ++i) {
         const auto target = fs::read_symlink(resolved, error);
@@ -82,13 +86,30 @@ bool Fill(OpenFile& file) {
     return file.Filled > 0;
 }
 
+// What the standard library doesn't have on both systems: a file that must not be there yet, opened
+// for writing, and the wait for the disk.
+#ifdef _WIN32
+std::FILE* OpenNew(const std::string& path) {
+    constexpr int flags = _O_WRONLY | _O_CREAT | _O_EXCL | _O_BINARY | _O_NOINHERIT;
+    const int file = _open(path.c_str(), flags, _S_IREAD | _S_IWRITE);
+    return file < 0 ? nullptr : _fdopen(file, "wb");
+}
+bool Sync(std::FILE* stream) { return _commit(_fileno(stream)) == 0; }
+#else
+std::FILE* OpenNew(const std::string& path) { return std::fopen(path.c_str(), "wbx"); }
+/// Some file systems do not support this; only a real failure to store counts.
+bool Sync(std::FILE* stream) {
+    return fsync(fileno(stream)) == 0 || errno == EINVAL || errno == EROFS;
+}
+#endif
+
 /// Creates a temporary file beside `path`, with the permissions of the one there, for writing.
 Stream CreateAside(const fs::path& path, fs::path& aside) {
     std::random_device random;
     for (int attempt = 1; attempt <= 100; ++attempt) {
         const auto name = "." + path.filename().string() + "." + NumberText(random());
-        aside = path.parent_path() / name;
-        if (auto* stream = std::fopen(aside.string().c_str(), "wbx")) {
+        aside = path.parent_path() / SystemPath(name);
+        if (auto* stream = OpenNew(aside.string())) {
             std::error_code error;
             const auto old = fs::status(path, error);
             if (fs::exists(old)) fs::permissions(aside, old.permissions(), error);
@@ -107,12 +128,7 @@ void RefuseIfReadOnly(const fs::path& path, const fs::file_status& status) {
 }
 
 bool FlushToDisk(std::FILE* stream, bool synced) {
-    if (std::fflush(stream) != 0) return false;
-#ifdef QUORVANE_HAS_FSYNC
-    // Some file systems do not support this; only a real failure to store counts.
-    if (synced && fsync(fileno(stream)) != 0 && errno != EINVAL && errno != EROFS) return false;
-#endif
-    return true;
+    return std::fflush(stream) == 0 && (!synced || Sync(stream));
 }
 
 void Store(std::FILE* stream, std::string_view text, bool synced) {
@@ -122,6 +138,12 @@ void Store(std::FILE* stream, std::string_view text, bool synced) {
 }
 
 }  // namespace
+
+void KeepStandardBytes() {
+#ifdef _WIN32
+    for (auto* const stream : {stdin, stdout, stderr}) _setmode(_fileno(stream), _O_BINARY);
+#endif
+}
 
 int FreeFile() {
     for (int number = 1; number <= HighestNumber; ++number) {
@@ -134,7 +156,7 @@ void OpenForInput(int number, const std::string& path) {
     auto& element = Element(number);
     if (element) throw RuntimeError(55);
     std::error_code error;
-    const auto status = fs::status(path, error);
+    const auto status = fs::status(SystemPath(path), error);
     if (!fs::exists(status)) throw RuntimeError(53);
     if (!fs::is_regular_file(status)) throw RuntimeError(75);
     auto file = std::make_unique<OpenFile>();

@@ -10,6 +10,10 @@ namespace quorvane {
 /// CR LF, LF or CR ends a line when read. A number that is open raises error 55, one that is not
 /// open, or none at all, error 52.
 
+/// From here on standard input, output and error carry bytes as they are. Windows would turn line
+/// ends into its own and back.
+void KeepStandardBytes();
+
 /// A line longer than this many bytes raises error 14, so that no file can fill the memory.
 constexpr std::size_t MaxLineLength = 1024 * 1024;
 

@@ -80,16 +80,16 @@ void FolderLock::Release() {
 void FolderLock::Remove() {
     if (!IsHeld()) return;
     std::error_code error;
-    for (std::filesystem::directory_iterator at(folder_, error), end; !error && at != end;
-         at.increment(error)) {
-        if (at->path() != LockFile(folder_)) return Release();
+    for (std::filesystem::directory_iterator at(SystemPath(folder_), error), end;
+         !error && at != end; at.increment(error)) {
+        if (at->path().filename() != "lock") return Release();
     }
 #ifdef _WIN32
     Release();  // A file that is open can't be removed here.
 #endif
-    std::filesystem::remove(LockFile(folder_), error);
+    std::filesystem::remove(SystemPath(LockFile(folder_)), error);
     Release();
-    std::filesystem::remove(folder_, error);
+    std::filesystem::remove(SystemPath(folder_), error);
 }
 
 }  // namespace quorvane

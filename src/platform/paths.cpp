@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: MIT
 #include "platform/paths.h"
 
-#include <filesystem>
-
 #include "platform/numbers.h"
 #include "platform/runtime_error.h"
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
 
 namespace quorvane {
 
@@ -30,15 +32,27 @@ std::string JoinPath(std::string_view folder, std::string_view name) {
     return path;
 }
 
+#ifdef _WIN32
+std::filesystem::path SystemPath(const std::string& name) {
+    const auto length = static_cast<int>(name.size());
+    std::wstring wide(name.size(), L'\0');
+    const int filled = MultiByteToWideChar(CP_UTF8, 0, name.data(), length, wide.data(), length);
+    wide.resize(static_cast<std::size_t>(filled));
+    return wide;
+}
+#else
+std::filesystem::path SystemPath(const std::string& name) { return name; }
+#endif
+
 std::string FindFile(const std::string& path) {
     namespace fs = std::filesystem;
     std::error_code error;
-    if (fs::exists(path, error)) return path;
+    if (fs::exists(SystemPath(path), error)) return path;
     const auto name = FileNameOf(path);
     const auto folder = path.substr(0, path.size() - name.size());
     const auto wanted = LowerCase(name);
     std::string best;
-    fs::directory_iterator at(folder.empty() ? "." : folder, error);
+    fs::directory_iterator at(SystemPath(folder.empty() ? "." : folder), error);
     for (; !error && at != fs::directory_iterator(); at.increment(error)) {
         const auto found = at->path().filename().string();
         if (LowerCase(found) == wanted && (best.empty() || found < best)) best = found;
@@ -53,7 +67,8 @@ std::string FindInFolder(std::string_view folder, std::string_view name) {
 int FileAttributes(const std::string& path) {
     constexpr int archive = 32;
     std::error_code error;
-    if (!std::filesystem::is_regular_file(FindFile(path), error)) throw RuntimeError(53);
+    if (!std::filesystem::is_regular_file(SystemPath(FindFile(path)), error))
+        throw RuntimeError(53);
     return archive;
 }
 
@@ -66,7 +81,7 @@ std::string CurrentDirectory() {
 
 void ChangeDirectory(const std::string& path) {
     std::error_code error;
-    std::filesystem::current_path(path, error);
+    std::filesystem::current_path(SystemPath(path), error);
     if (error) throw RuntimeError(76);
 }
 

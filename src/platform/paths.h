@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <filesystem>
 #include <string>
 #include <string_view>
 
@@ -12,6 +13,10 @@ std::string_view FileNameOf(std::string_view path);
 std::string_view FolderOf(std::string_view path);
 /// Joins with the separator of this platform.
 std::string JoinPath(std::string_view folder, std::string_view name);
+
+/// A name in the form that the system takes. Ours are UTF-8 on Windows, where the standard library
+/// would read them as something else, and bytes elsewhere.
+std::filesystem::path SystemPath(const std::string& name);
 
 /// The path of an existing file. Where there is none with the very name, one whose name differs in
 /// the case of its letters counts; where there is none at all, `path` comes back as it is.

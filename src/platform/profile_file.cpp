@@ -59,10 +59,11 @@ std::vector<std::string> LinesOf(const std::string& text) {
 std::optional<std::vector<std::string>> ReadLines(const std::string& path) {
     namespace fs = std::filesystem;
     std::error_code error;
-    const auto status = fs::status(path, error);
+    const auto place = SystemPath(path);
+    const auto status = fs::status(place, error);
     if (!fs::exists(status)) return std::vector<std::string>();
-    if (!fs::is_regular_file(status) || fs::file_size(path, error) > LargestFile) return {};
-    std::ifstream file(path, std::ios::binary);
+    if (!fs::is_regular_file(status) || fs::file_size(place, error) > LargestFile) return {};
+    std::ifstream file(place, std::ios::binary);
     if (!file) return {};
     return LinesOf({std::istreambuf_iterator<char>(file), {}});
 }

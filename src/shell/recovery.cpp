@@ -20,7 +20,7 @@ std::string FreeName(const std::string& folder) {
     for (int i = 1;; ++i) {
         auto name = JoinPath(folder, "recovered-" + NumberText(i) + ".qvm");
         std::error_code error;
-        if (!std::filesystem::exists(name, error)) return name;
+        if (!std::filesystem::exists(SystemPath(name), error)) return name;
     }
 }
 
@@ -31,7 +31,7 @@ std::vector<std::string> WriteRecoveryFiles() {
     const auto folder = desktop->DataFolder();
     if (folder.empty()) return files;
     std::error_code error;
-    std::filesystem::create_directories(folder, error);
+    std::filesystem::create_directories(SystemPath(folder), error);
     for (int i = 1; i <= Documents.UpperBound(); ++i) {
         if (!Documents[i] || !DocumentStates[i].Modified) continue;
         // When one diagram can't be saved, for whatever reason, the next one still may be.

@@ -51,7 +51,7 @@ std::vector<Example> Examples() {
     const auto folder = JoinPath(ProgramDirectory, "examples");
     std::vector<std::string> files;
     std::error_code error;
-    for (const auto& entry : std::filesystem::directory_iterator(folder, error)) {
+    for (const auto& entry : std::filesystem::directory_iterator(SystemPath(folder), error)) {
         if (entry.path().extension() == Ending) files.push_back(entry.path().string());
     }
     std::sort(files.begin(), files.end());

@@ -92,8 +92,8 @@ std::string FileOf(const Copy& copy, const char* ending) {
 void RemoveFiles(const Copy& copy) {
     if (copy.File == 0) return;
     std::error_code error;
-    fs::remove(FileOf(copy, ".qvm"), error);
-    fs::remove(FileOf(copy, ".name"), error);
+    fs::remove(SystemPath(FileOf(copy, ".qvm")), error);
+    fs::remove(SystemPath(FileOf(copy, ".name")), error);
 }
 
 /// The copy of a worksheet. One that was closed and is back by an undo gets the copy that it left.
@@ -141,20 +141,21 @@ void LeaveClosed() {
 /// Makes a folder that has our lock in it; the system's words when that fails.
 std::string MakeFolder() {
     std::error_code error;
-    if (own.Lock.IsHeld() && fs::exists(own.Path, error)) return "";
+    if (own.Lock.IsHeld() && fs::exists(SystemPath(own.Path), error)) return "";
     const auto root = RecoveryRoot();
     if (root.empty()) return "there is no folder for them";
-    fs::create_directories(root, error);
+    fs::create_directories(SystemPath(root), error);
     std::random_device random;
     for (int tries = 0; !error && tries < 10; ++tries) {
         own.Path = JoinPath(root, NumberText(random()));
-        if (!fs::create_directory(own.Path, error)) continue;
-        fs::permissions(own.Path, fs::perms::owner_all, error);
+        const auto folder = SystemPath(own.Path);
+        if (!fs::create_directory(folder, error)) continue;
+        fs::permissions(folder, fs::perms::owner_all, error);
         if (own.Lock.Take(own.Path)) {
             for (auto& copy : own.Copies) copy.Due = true;
             return "";
         }
-        fs::remove(own.Path, error);
+        fs::remove(folder, error);
     }
     return error ? error.message() : "their folder can't be locked";
 }

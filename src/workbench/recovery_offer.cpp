@@ -118,7 +118,7 @@ void FindDiagrams() {
     ResetRecoveryOffer();
     const auto root = RecoveryRoot();
     if (root.empty()) return;
-    for (const auto& folder : PathsIn(root)) {
+    for (const auto& folder : PathsIn(SystemPath(root))) {
         std::error_code error;
         if (!fs::is_directory(fs::symlink_status(folder, error))) continue;
         auto paths = PathsIn(folder);

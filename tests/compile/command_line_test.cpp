@@ -30,10 +30,10 @@ protected:
         WriteAll(folder / "bytes.qvm", "1\r\nSin~\xE9\"\x01" + Links);
         WriteAll(folder / "empty", "");
         WriteAll(folder / "text", "# A heading\r\n\r\n3 boxes~\r\n");
-        // Files of answers are called by what they hold.
-        for (const std::string end : {"", "\n", "\r\n", "\r"}) {
-            WriteAll(folder / ("text 7" + end), "text 7" + end);
-        }
+        WriteAll(folder / "no end", "text 7");
+        WriteAll(folder / "lf", "text 7\n");
+        WriteAll(folder / "crlf", "text 7\r\n");
+        WriteAll(folder / "cr", "text 7\r");
         WriteAll(folder / "out.m", "old");
     }
 

@@ -25,6 +25,12 @@ inline std::string Quoted(const std::string& word) {
     return quoted + "'";
 }
 
+/// The program that was built, or the one that the environment names.
+inline std::string CompileProgram() {
+    const char* const other = std::getenv("QUORVANE_COMPILE");
+    return other ? other : QUORVANE_COMPILE;
+}
+
 /// Runs quorvane-compile in `folder`. What it prints is kept in a folder of its own; `output` names
 /// another place for standard output, which then reads as "", `input` what standard input is.
 inline CompileRun RunCompile(const std::filesystem::path& folder,
@@ -34,7 +40,7 @@ inline CompileRun RunCompile(const std::filesystem::path& folder,
     const WorkFolder kept;
     const auto outputPath = output.empty() ? (kept.Path / "output").string() : output;
     const auto errorsPath = (kept.Path / "errors").string();
-    std::string command = "cd " + Quoted(folder.string()) + " && exec " + Quoted(QUORVANE_COMPILE);
+    std::string command = "cd " + Quoted(folder.string()) + " && exec " + Quoted(CompileProgram());
     for (const auto& argument : arguments) command += " " + Quoted(argument);
     command += " >" + Quoted(outputPath) + " 2>" + Quoted(errorsPath) + " <" + Quoted(input);
     CompileRun run;
