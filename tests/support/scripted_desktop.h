@@ -34,7 +34,7 @@ struct ScriptedDesktop : QuietDesktop {
     std::vector<std::string> HelpCommands;  ///< File, "|", code
     std::vector<std::string> Processes;     ///< Started programs
     bool ProcessesFail = false;
-    ProgramPlaces Places;  ///< Where engines are looked for
+    ProgramPlaces Places;           ///< Where engines are looked for
     std::vector<std::string> Sent;  ///< What went to MATLAB
     std::vector<LineBoxes> SentBoxes;
     std::string Reply;             ///< What each request gets

@@ -178,7 +178,12 @@ void Show(const ListBox& record, QWidget* control) {
     auto* model = static_cast<ListBoxModel*>(view->model());
     model->Show(record.List);
     const auto selected = model->index(record.ListIndex);
-    if (view->currentIndex() != selected) view->setCurrentIndex(selected);
+    const auto* shown = view->selectionModel();
+    if (!selected.isValid()) {
+        view->clearSelection();
+    } else if (!shown->isSelected(selected)) {
+        view->setCurrentIndex(selected);
+    }
     control->setVisible(record.Visible);
 }
 
@@ -225,8 +230,11 @@ void Take(ComboBox& record, QWidget* control) {
 }
 
 void Take(ListBox& record, QWidget* control) {
-    if (auto* view = qobject_cast<QListView*>(control))
-        record.ListIndex = view->currentIndex().row();
+    // A list that gets the focus has a current entry, which is not selected yet.
+    if (auto* view = qobject_cast<QListView*>(control)) {
+        const auto selected = view->selectionModel()->selectedRows();
+        record.ListIndex = selected.isEmpty() ? -1 : selected.constFirst().row();
+    }
 }
 
 void Take(ScrollBar& record, QWidget* control) {
@@ -278,7 +286,7 @@ void ShowEmptyText(QWidget* control) {
     auto colors = host->palette();
     auto faint = colors.color(QPalette::Text);
     faint.setAlphaF(0.6F);
-    colors.setColor(QPalette::WindowText, faint);
+    for (const auto role : {QPalette::Text, QPalette::WindowText}) colors.setColor(role, faint);
     text->setPalette(colors);
     text->setVisible(isEmpty);
 }
@@ -377,8 +385,9 @@ void FormView::Connect(const ControlRow& row, QWidget* control) {
 /// handler may ask something. A double click presses OK.
 void FormView::ConnectList(QListView* view, const std::function<void()>& run) {
     view->setModel(new ListBoxModel(view));
-    connect(view->selectionModel(), &QItemSelectionModel::currentRowChanged, this, [=, this] {
-        if (!view->signalsBlocked()) QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
+    connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this, [=, this] {
+        const bool isByHand = !view->signalsBlocked() && view->selectionModel()->hasSelection();
+        if (isByHand) QMetaObject::invokeMethod(this, run, Qt::QueuedConnection);
     });
     connect(view, &QListView::doubleClicked, this, [this] {
         if (auto* ok = findChild<QPushButton*>("cmdOK")) ok->click();
