@@ -13,11 +13,11 @@ class KeyTable {
 public:
     /// The first value of a key stays.
     constexpr void Add(std::string_view key, Value value) {
-        auto& slot = slots_[PlaceOf(key)];
+        auto& slot = slots_[SlotFor(key)];
         if (slot.Key.empty()) slot = {key, value};
     }
     constexpr const Value* Find(std::string_view key) const {
-        const auto& slot = slots_[PlaceOf(key)];
+        const auto& slot = slots_[SlotFor(key)];
         return slot.Key.empty() ? nullptr : &slot.Held;
     }
 
@@ -28,7 +28,7 @@ private:
     };
     static constexpr std::size_t SlotCount = 512;
 
-    constexpr std::size_t PlaceOf(std::string_view key) const {
+    constexpr std::size_t SlotFor(std::string_view key) const {
         std::size_t place = key.size();
         if (!key.empty()) {
             for (const char letter : {key.front(), key[key.size() / 2], key.back()}) {

@@ -24,7 +24,7 @@ bool Overlap(const PixelRect& a, const PixelRect& b) {
 }
 
 /// What a line or a head covers, roughly.
-PixelRect PlaceOf(const DrawnShape& shape) {
+PixelRect AreaOf(const DrawnShape& shape) {
     const bool isLine = shape.Shape == DrawnShape::Kind::Line;
     const double reach = (isLine ? 0 : shape.Radius / UnitsPerPixel) + shape.Width / 2.0;
     const double x1 = shape.X1 / UnitsPerPixel, y1 = shape.Y1 / UnitsPerPixel;
@@ -63,7 +63,7 @@ std::vector<DrawnLabel> PlaceLabels(const std::vector<DrawnBox>& boxes,
     std::vector<PixelRect> taken;
     taken.reserve(2 * boxes.size() + arrows.size());
     for (const auto& box : boxes) taken.push_back(box.Place);
-    for (const auto& shape : arrows) taken.push_back(PlaceOf(shape));
+    for (const auto& shape : arrows) taken.push_back(AreaOf(shape));
     std::vector<DrawnLabel> labels;
     for (const auto& box : boxes) {
         DrawnLabel label;

@@ -69,13 +69,13 @@ void Link(Parts& parts, std::size_t from, int slot, std::size_t to) {
 }
 
 Parts PartsOf(const std::vector<int>& numbers) {
-    std::array<std::size_t, MaxBoxes + 1> placeOf{};  // from 1; 0 for a box of no part
+    std::array<std::size_t, MaxBoxes + 1> partOf{};  // from 1; 0 for a box of no part
     Parts parts(numbers.size());
     for (std::size_t i = 0; i < parts.size(); ++i) {
-        placeOf[static_cast<std::size_t>(numbers[i])] = i + 1;
+        partOf[static_cast<std::size_t>(numbers[i])] = i + 1;
     }
     const auto placeIn = [&](int number) {
-        return number > 0 && number <= MaxBoxes ? placeOf[static_cast<std::size_t>(number)] : 0;
+        return number > 0 && number <= MaxBoxes ? partOf[static_cast<std::size_t>(number)] : 0;
     };
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const Box& box = Boxes[numbers[i]];
