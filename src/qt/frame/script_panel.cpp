@@ -61,7 +61,6 @@ ScriptPanel::ScriptPanel(QWidget* parent) : QWidget(parent) {
     script_->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     script_->setLineWrapMode(QPlainTextEdit::NoWrap);
     script_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    script_->setPlaceholderText("No script: see what is said above");
     script_->viewport()->installEventFilter(this);
     auto* head = new QHBoxLayout;
     head->addWidget(title_, 1);
@@ -97,6 +96,7 @@ void ScriptPanel::Refresh() {
     const bool open = document_ > 0;
     title_->setText(open ? ToScreen(FileNameOf(DocumentWindow(document_).Caption))
                          : "No worksheet");
+    script_->setPlaceholderText(open ? "No script: see what is said above" : "");
     copy_->setEnabled(!live.Text.empty());
     picture_->setEnabled(open);
     LightLines();
