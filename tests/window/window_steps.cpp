@@ -389,6 +389,10 @@ Words WindowTest::Frames() {
              QDropEvent drop({}, Qt::CopyAction, &files, Qt::LeftButton, {});
              QCoreApplication::sendEvent(&Frame(), &drop);
          })},
+        {"fills", Seen([this](A a) {
+             QTest::qWait(0);
+             return Window(a[0])->geometry() == Frame().Area()->viewport()->rect();
+         })},
         {"minimized", Seen([this](A a) { return WindowOf(a)->isMinimized(); })},
         {"minimize", Step([this](A a) { WindowOf(a)->showMinimized(); })},
         {"bar", Seen([this](A) {

@@ -10,6 +10,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QResizeEvent>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QSplitter>
@@ -126,6 +127,7 @@ FrameView::FrameView() {
     area_->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     welcome_ = new WelcomeView(area_->viewport());
     setAcceptDrops(true);
+    area_->viewport()->installEventFilter(this);
     bar_ = new BarView(this);
     auto* inner = new QWidget(this);
     auto* rows = new QVBoxLayout(inner);
@@ -350,6 +352,19 @@ void FrameView::showEvent(QShowEvent* event) {
 /// Boxes that are dragged are not for the frame.
 void FrameView::dragEnterEvent(QDragEnterEvent* event) {
     if (event->mimeData()->hasUrls()) event->acceptProposedAction();
+}
+
+/// A worksheet that fills the room between the panels goes on filling it.
+bool FrameView::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == area_->viewport() && event->type() == QEvent::Resize) {
+        const auto& resized = *static_cast<QResizeEvent*>(event);
+        for (auto* window : area_->subWindowList()) {
+            const bool fills = window->geometry() == QRect({}, resized.oldSize());
+            const bool isNormal = !window->isMinimized() && !window->isMaximized();
+            if (fills && isNormal) window->resize(resized.size());
+        }
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void FrameView::dropEvent(QDropEvent* event) {
