@@ -56,7 +56,8 @@ int Compile(ConsoleDesktop& console, const Options& options) {
     std::string why;
     if (!LoadDiagram(console, options.Diagrams[0], why)) return Refuse(why);
     for (const auto& value : options.Values) {
-        if (why = SetValue(value); !why.empty()) return Refuse("--set " + value + ": " + why);
+        if (why = SetValue(value); why.empty()) continue;
+        return Refuse(std::string("--set ").append(value).append(": ").append(why));
     }
     if (options.Run) return RunDiagram(console, options.Engine);
     std::string output;

@@ -144,8 +144,9 @@ void ShowChoice(QComboBox* combo, const QString& text) {
 /// Colours stand before their names, in a list whose layout asks for that.
 void ShowSwatches(QComboBox* combo) {
     if (!combo->property("swatches").toBool()) return;
+    const int side = qRound(16 * combo->devicePixelRatioF());
     for (int i = 0; i < combo->count(); ++i) {
-        QPixmap swatch(16 * combo->devicePixelRatioF(), 16 * combo->devicePixelRatioF());
+        QPixmap swatch(side, side);
         const auto name = combo->itemText(i).toLower();
         swatch.fill(name == "green" ? QColor(Qt::green) : QColor(name));
         QPainter(&swatch).drawRect(swatch.rect().adjusted(0, 0, -1, -1));
