@@ -53,6 +53,37 @@ bool IsSet(const Check& check, std::string_view name, int pickup) {
                        [](int each) { return Boxes[each].BoxType == "Ascii File Input"; });
 }
 
+/// The command that draws in the text of a plot: behind its icon's key and a line for a new figure,
+/// whose semicolon a saved diagram has on the next line.
+std::string_view PlotCommand(std::string_view text) {
+    text.remove_prefix(std::min(text.find(';'), text.size() - 1) + 1);
+    for (const std::string_view figure : {"figure;\r\n", "figure\r\n;"}) {
+        if (text.starts_with(figure)) text.remove_prefix(figure.size());
+    }
+    return text.substr(0, text.find("\r\n"));
+}
+
+/// Plots that "Plot Options" writes, and that don't draw what was marked there.
+void CheckPlot(Check& check, int number) {
+    const auto& text = Boxes[number].BoxText;
+    if (Boxes[number].BoxType != "Plot Output" || text.empty()) return;
+    const auto command = PlotCommand(text);
+    for (const std::string function : {"polar", "stem"}) {
+        if (!command.starts_with(function + "('")) continue;
+        Report(check, number, "MATLAB refuses its line: it names no input",
+               InPlace(function + "(input1,input2);"));
+    }
+    constexpr std::string_view styled = "(Input1,'";
+    const auto start = command.find(styled);
+    if (start == std::string_view::npos) return;
+    const auto style = command.substr(start + styled.size());
+    if (style.substr(std::min(style.find('\''), style.size())).starts_with("',Input")) {
+        Report(check, number,
+               "Input 1 is marked as X axis: it is drawn as a curve, not as the X of the others",
+               "Mark another input as X axis with F2, and draw the arrow of its data there");
+    }
+}
+
 }  // namespace
 
 void CheckEntries(Check& check, int number) {
@@ -102,6 +133,7 @@ void CheckText(Check& check, int number) {
         Report(check, number, "Fewer than two arrows lead to it: it writes no line",
                "Draw a second arrow to it");
     }
+    CheckPlot(check, number);
 }
 
 void CheckPickup(Check& check, int number) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "workbench/bar.h"
 
+#include <algorithm>
+
 #include "commands/change_box.h"
 #include "commands/worksheet_events.h"
 #include "diagram/box_table.h"
@@ -54,13 +56,30 @@ std::string Found(int document) {
     return NumberText(count) + (count == 1 ? " finding" : " findings");
 }
 
+/// What a click does in "Multiple Arrows", and what somebody who has never drawn a diagram looks
+/// for on a sheet without boxes, or without arrows.
+std::string NextStep(int document) {
+    if (document == 0) return "";
+    if (DocumentWindow(document).pnlArrow.HoldsArrow) return "arrows: click a box, then its target";
+    int boxes = 0;
+    for (int number = 1; number < NextBox; ++number) {
+        const Box& box = Boxes[number];
+        if (box.BoxDocument != document) continue;
+        ++boxes;
+        const auto isWired = [](auto slot) { return slot > 0; };
+        if (std::any_of(box.BoxIn.begin(), box.BoxIn.end(), isWired)) return "";
+    }
+    if (boxes == 0) return "choose a box from Functions, or press / on the sheet";
+    return boxes == 1 ? "" : "join boxes: press A on one, then click the next";
+}
+
 }  // namespace
 
 void Say(const std::string& text) {
     notice = {text, desktop->Milliseconds(), HistoryChanges(), EditMode};
 }
 
-std::string BarState(int document) {
+std::string BarState(int document, bool withFindings) {
     if (auto waiting = Waiting(); !waiting.empty()) return waiting;
     if (Stands(notice)) return notice.Text;
     switch (EditMode) {
@@ -71,7 +90,8 @@ std::string BarState(int document) {
         case 6: return "copy: click a box, or where the selection goes";
         default: break;
     }
-    for (const auto& text : {SaveProblem(), RecoveryProblem(), Selected(), Found(document)}) {
+    for (const auto& text : {SaveProblem(), RecoveryProblem(), Selected(),
+                             withFindings ? Found(document) : "", NextStep(document)}) {
         if (!text.empty()) return text;
     }
     return "";

@@ -256,7 +256,7 @@ void BarView::Refresh() {
 }
 
 void BarView::ShowState() {
-    const auto text = ToScreen(BarState(showsFindings ? activeDocument : 0));
+    const auto text = ToScreen(BarState(activeDocument, showsFindings));
     if (text_ != text) {
         text_ = text;
         state_->setAccessibleName(text);
