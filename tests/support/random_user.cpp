@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "support/random_user.h"
 
+#include <algorithm>
 #include <filesystem>
 
 #include "catalogue/box_commands.h"
@@ -81,6 +82,21 @@ bool WouldEndTheProgram(int document) {
     return false;
 }
 
+/// A command now would write over boxes that are there.
+bool CommandCountsNoBox() { return EditMode == 0 || (EditMode >= 3 && EditMode <= 5); }
+
+/// The copy of a box by itself names the model's peers, which don't know of it.
+bool CopyHasArrows(const Box& box) {
+    return EditMode == 6 && (*std::max_element(box.BoxIn.begin(), box.BoxIn.end()) > 0 ||
+                             *std::max_element(box.BoxOut.begin(), box.BoxOut.end()) > 0);
+}
+
+/// Breaking one of two arrows from the same box takes both off there, and leaves one here.
+bool IsFedTwice(const Box& box) {
+    const auto& in = box.BoxIn;
+    return (in[1] > 0 && (in[1] == in[2] || in[1] == in[3])) || (in[2] > 0 && in[2] == in[3]);
+}
+
 std::string RandomUser::OperateOn(int document) {
     auto& sheet = *Documents[document];
     const double x = 15.0 * Any(600), y = 15.0 * Any(450);
@@ -93,7 +109,7 @@ std::string RandomUser::OperateOn(int document) {
     switch (Any(isOwn ? 24 : 10)) {
         case 0:
         case 1: {
-            if (Careful && (EditMode == 3 || EditMode == 4)) return "nothing";
+            if (Careful && CommandCountsNoBox()) return "nothing";
             const auto& row =
                 boxCommands[static_cast<std::size_t>(Any(static_cast<int>(boxCommands.size())))];
             return RunBoxCommand(sheet, row.Control), "command " + std::string(row.Control);
@@ -119,11 +135,15 @@ std::string RandomUser::OperateOn(int document) {
                 case 4: return mnuMultipleArrows_Click(sheet), "multiple arrows";
                 default: return mnuEditClear_Click(sheet), "clear";
             }
-        case 10: return box_MouseDown(sheet, box, MiddleButton, 0), "information";
+        case 10:
+            if (Careful && IsFedTwice(Boxes[box])) return "nothing";
+            return box_MouseDown(sheet, box, MiddleButton, 0), "information";
         case 11: return box_MouseDown(sheet, box, RightButton, 0), "drag mode";
         case 12: return main_DragDrop(sheet, box, x, y), "drop";
         case 13: return BeginArrow(), "arrow";
-        default: return box_Click(sheet, box), "click a box";
+        default:
+            if (Careful && CopyHasArrows(Boxes[box])) return "nothing";
+            return box_Click(sheet, box), "click a box";
     }
 }
 

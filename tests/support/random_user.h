@@ -27,7 +27,8 @@ struct RandomUser : QuietDesktop {
     /// A number from 0 to `below` - 1.
     int Any(int below) { return static_cast<int>(chance() % static_cast<unsigned>(below)); }
     std::mt19937 chance;
-    bool Careful = false;  ///< Gives no command while an arrow is pending, which drops the last box
+    /// Keeps away from what, by design, leaves arrows known at one end alone or boxes written over.
+    bool Careful = false;
 
 private:
     std::string OperateOn(int document);
