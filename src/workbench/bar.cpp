@@ -69,8 +69,8 @@ std::string NextStep(int document) {
         const auto isWired = [](auto slot) { return slot > 0; };
         if (std::any_of(box.BoxIn.begin(), box.BoxIn.end(), isWired)) return "";
     }
-    if (boxes == 0) return "choose a box from Functions, or press / on the sheet";
-    return boxes == 1 ? "" : "join boxes: press A on one, then click the next";
+    if (boxes == 0) return "empty sheet: press / to find a box";
+    return boxes == 1 ? "" : "press A on a box, then click its target";
 }
 
 }  // namespace

@@ -227,8 +227,7 @@ void BarView::Toggle() {
 
 /// At the mouse.
 void BarView::OpenQuick(bool boxesOnly) {
-    constexpr int width = 380;
-    if (AnyWorksheet()) popup_->Open(QCursor::pos(), width, "", boxesOnly);
+    if (AnyWorksheet()) popup_->Open(QCursor::pos(), "", boxesOnly);
 }
 
 /// From the field the focus goes back to the worksheet; there, what is pending is given up.

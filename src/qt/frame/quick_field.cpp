@@ -18,6 +18,8 @@ namespace {
 constexpr int RowsShown = 12;
 constexpr int MostRows = 300;
 constexpr int FaceSide = 24;
+/// Wide enough for most commands with their menu.
+constexpr int PopupWidth = 480;
 
 }  // namespace
 
@@ -35,6 +37,7 @@ QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
     setObjectName("quickPopup");
     setAccessibleName("Find");
     setFrameShape(QFrame::StyledPanel);
+    setFixedWidth(PopupWidth);
     text_ = new QLineEdit(this);
     text_->setObjectName("quickText");
     text_->setAccessibleName("Find");
@@ -57,14 +60,13 @@ QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
     connect(list_, &QListWidget::itemClicked, this, [this] { Choose(list_->currentRow()); });
 }
 
-void QuickPopup::Open(QPoint at, int width, const QString& text, bool boxesOnly) {
+void QuickPopup::Open(QPoint at, const QString& text, bool boxesOnly) {
     boxesOnly_ = boxesOnly;
-    setFixedWidth(width);
     ShowHint(text_, boxesOnly ? "Find a box" : "Find a command, an option or a box");
     text_->setText(text);
     Find();
     const auto room = screen()->availableGeometry();
-    move(qBound(room.left(), at.x(), room.right() - this->width()),
+    move(qBound(room.left(), at.x(), room.right() - width()),
          qBound(room.top(), at.y(), room.bottom() - height()));
     show();
     text_->setFocus(Qt::PopupFocusReason);
@@ -133,8 +135,7 @@ QuickField::QuickField(QWidget* parent, QuickPopup* popup) : QLineEdit(parent) {
         "Runs a command, picks an option, shows a box (Ctrl+K at the mouse, Ctrl+F for boxes)");
     connect(this, &QLineEdit::textEdited, this, [this, popup](const QString& text) {
         clear();
-        constexpr int least = 380;
-        popup->Open(mapToGlobal(QPoint(-4, -4)), qMax(width(), least), text, false);
+        popup->Open(mapToGlobal(QPoint(-4, -4)), text, false);
     });
 }
 

@@ -20,7 +20,7 @@ class QuickPopup : public QFrame {
 public:
     explicit QuickPopup(QWidget* frame);
     /// Opens at this place of the screen, with this text in it.
-    void Open(QPoint at, int width, const QString& text, bool boxesOnly);
+    void Open(QPoint at, const QString& text, bool boxesOnly);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
