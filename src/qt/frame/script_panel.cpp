@@ -27,9 +27,8 @@ namespace quorvane {
 namespace {
 
 constexpr int BoxRole = Qt::UserRole;
-/// A finding takes about three lines; beyond the second number the list scrolls.
-constexpr int LinesOfFinding = 3;
-constexpr int MostLines = 10;
+/// Beyond this many lines the list of findings scrolls.
+constexpr int MostLines = 12;
 
 /// Red that can be read on the ground of a list.
 QColor FailureInk(const QPalette& colors) {
@@ -122,9 +121,22 @@ void ScriptPanel::ShowFindings() {
     }
     for (const auto& finding : live.Findings) AddBox(finding.Box, InWords(finding));
     findings_->setVisible(findings_->count() > 0);
-    const int lines = qMin(findings_->count() * LinesOfFinding, MostLines);
-    findings_->setMaximumHeight(lines * findings_->fontMetrics().lineSpacing() + 8);
+    FitFindings();
 }
+
+/// The findings show whole; how many lines they take hangs on the width.
+void ScriptPanel::FitFindings() {
+    findings_->doItemsLayout();
+    QRect rows;
+    for (int i = 0; i < findings_->count(); ++i) {
+        rows |= findings_->visualItemRect(findings_->item(i));
+    }
+    const int margins = 2 * (findings_->frameWidth() + findings_->spacing());
+    const int most = MostLines * findings_->fontMetrics().lineSpacing();
+    findings_->setFixedHeight(qMin(rows.height() + margins, most));
+}
+
+void ScriptPanel::resizeEvent(QResizeEvent*) { FitFindings(); }
 
 /// In the colour of a selection, faintly.
 void ScriptPanel::LightLines() {

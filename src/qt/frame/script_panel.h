@@ -23,11 +23,13 @@ public:
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:
     void ShowFindings();
+    void FitFindings();
     void AddBox(int box, const std::string& text);
     void LightLines();
     int BoxOfLine(int line) const;
