@@ -4,6 +4,7 @@
 #include <QCommandLinkButton>
 #include <QDir>
 #include <QEvent>
+#include <QFile>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QKeyEvent>
@@ -188,7 +189,8 @@ QWidget* WelcomeView::ExampleList() {
             LinkButton(QString("welcomeExample(%1)").arg(i + 1), ToScreen(example.Name),
                        ToScreen(example.Line), [name = example.File] { LoadDocumentFile(name); });
         button->setIconSize(PictureSize);
-        button->setIcon(SvgIcon("examples/" + QFileInfo(file).completeBaseName()));
+        const auto picture = "examples/" + QFileInfo(file).completeBaseName();
+        if (QFile::exists(":/" + picture + ".svg")) button->setIcon(SvgIcon(picture));
         grid_->addWidget(button, i, 0);
         examples_.append(button);
     }
