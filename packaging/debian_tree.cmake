@@ -36,6 +36,10 @@ file(WRITE "${doc}/changelog.Debian"
 
  -- ${CPACK_PACKAGE_CONTACT}  ${now}
 ")
+file(READ "${doc}/README.md" readme)
+string(REPLACE "(CHANGELOG.md)" "(changelog.gz)" readme "${readme}")
+string(REPLACE "(LICENSE)" "(copyright)" readme "${readme}")
+file(WRITE "${doc}/README.md" "${readme}")
 file(GLOB pages "${tree}/man/man1/*.1")
 execute_process(COMMAND "${GZIP}" -9nf "${doc}/changelog" "${doc}/changelog.Debian" ${pages}
     COMMAND_ERROR_IS_FATAL ANY)
