@@ -53,14 +53,13 @@ bool IsSet(const Check& check, std::string_view name, int pickup) {
                        [](int each) { return Boxes[each].BoxType == "Ascii File Input"; });
 }
 
-/// The command that draws in the text of a plot: behind its icon's key and a line for a new figure,
-/// whose semicolon a saved diagram has on the next line.
+/// The text of a plot from its drawing command on: behind its icon's key and a "figure;", whose end
+/// of line a diagram file has as ";;".
 std::string_view PlotCommand(std::string_view text) {
+    constexpr std::string_view figure = "figure;";
     text.remove_prefix(std::min(text.find(';'), text.size() - 1) + 1);
-    for (const std::string_view figure : {"figure;\r\n", "figure\r\n;"}) {
-        if (text.starts_with(figure)) text.remove_prefix(figure.size());
-    }
-    return text.substr(0, text.find("\r\n"));
+    if (!text.starts_with(figure)) return text;
+    return text.substr(std::min(text.find_first_not_of(";\r\n", figure.size()), text.size()));
 }
 
 /// Plots that "Plot Options" writes, and that don't draw what was marked there.
@@ -68,16 +67,17 @@ void CheckPlot(Check& check, int number) {
     const auto& text = Boxes[number].BoxText;
     if (Boxes[number].BoxType != "Plot Output" || text.empty()) return;
     const auto command = PlotCommand(text);
-    for (const std::string function : {"polar", "stem"}) {
-        if (!command.starts_with(function + "('")) continue;
+    const auto begin = std::min(command.find('('), command.size());
+    const auto function = command.substr(0, begin);
+    auto arguments = command.substr(begin);
+    if ((function == "polar" || function == "stem") && arguments.starts_with("('")) {
         Report(check, number, "MATLAB refuses its line: it names no input",
-               InPlace(function + "(input1,input2);"));
+               InPlace(std::string(function) + "(input1,input2);"));
     }
     constexpr std::string_view styled = "(Input1,'";
-    const auto start = command.find(styled);
-    if (start == std::string_view::npos) return;
-    const auto style = command.substr(start + styled.size());
-    if (style.substr(std::min(style.find('\''), style.size())).starts_with("',Input")) {
+    if (!arguments.starts_with(styled)) return;
+    arguments.remove_prefix(std::min(arguments.find('\'', styled.size()), arguments.size()));
+    if (arguments.starts_with("',Input")) {
         Report(check, number,
                "Input 1 is marked as X axis: it is drawn as a curve, not as the X of the others",
                "Mark another input as X axis with F2, and draw the arrow of its data there");
