@@ -105,6 +105,47 @@ TEST_F(FrameWindows, WorksheetsAreMinimisedAndMaximised) {
     EXPECT_EQ(Box(1)->pos(), QPoint(60, 50));
 }
 
+TEST_F(FrameWindows, TheToolboxKeepsItsPlaceByTheFrame) {
+    WriteAll("quorvane.ini", "[Prefrences]\r\n");
+    Start();
+    Choose("mnuFileNew");
+    auto* toolbox = Frame().findChild<QWidget*>("frmPictures");
+    const auto at = [&] { return toolbox->pos() - Frame().pos(); };
+    const auto room = [&] { return Room().translated(Frame().Area()->mapToGlobal(QPoint())); };
+    for (int panels = 0; panels < 2; ++panels) {
+        const auto title = room().adjusted(0, 0, 0, Window()->widget()->y() - room().height());
+        EXPECT_TRUE(room().contains(toolbox->geometry()) && !title.intersects(toolbox->geometry()));
+        EXPECT_GT(toolbox->x(), room().center().x());
+        Type(Qt::Key_F7);
+    }
+    Frame().resize(500, 500);
+    Frame().move(10, 20);
+    EXPECT_GT(toolbox->x(), Frame().geometry().right()) << "where there is room beside it";
+    toolbox->move(110, 220);
+    EXPECT_TRUE(QTest::qWaitFor([] { return QSettings().contains("Workbench/Toolbox place"); }));
+    Frame().move(60, 50);
+    EXPECT_EQ(at(), QPoint(100, 200));
+    Frame().move(-300, 50);
+    EXPECT_EQ(toolbox->x(), 0) << "never out of the screen";
+    Start();
+    toolbox = Frame().findChild<QWidget*>("frmPictures");
+    EXPECT_EQ(at(), QPoint(100, 200));
+    QSettings().setValue("Workbench/Toolbox place", "right 5000 20");
+    Start();
+    toolbox = Frame().findChild<QWidget*>("frmPictures");
+    EXPECT_TRUE(toolbox->screen()->geometry().contains(toolbox->geometry()));
+    Choose("mnuFileNew");
+    for (const auto& [key, sent] :
+         {std::pair(Qt::Key_Escape, ""), {Qt::Key_Return, "Plot Output"}}) {
+        Type(Qt::Key_F6);
+        ASSERT_TRUE(QTest::qWaitFor([&] { return toolbox->isActiveWindow(); }));
+        for (const auto walk : {Qt::Key_Down, Qt::Key_Right, Qt::Key_Down}) Type(walk);
+        Type(key);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == Surface(); }));
+        EXPECT_EQ(frmMDI.txtEvent, sent);
+    }
+}
+
 TEST_F(FrameWindows, TheTourTakesElevenClicks) {
     Choose("mnuFileNew");
     Choose("mnuHelpTour");

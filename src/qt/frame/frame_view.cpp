@@ -148,7 +148,7 @@ FrameView::FrameView() {
     bar_->AddPanel("showScript", "Script", "F7", script_);
     bar_->AddPanel("showBoxes", "Boxes", "F8", boxes_);
     setCentralWidget(inner);
-    toolbox_ = new ToolboxView(this);
+    toolbox_ = new ToolboxView(*this);
     results_ = new ResultsView(this);
     splash_ = std::make_unique<SplashView>();
     frameMenus_ = MakeFrameMenus(this);
@@ -341,12 +341,6 @@ int FrameView::CurrentBox() const {
     const auto* focused = dynamic_cast<BoxView*>(focusWidget());
     const auto* box = under ? under : focused;
     return box && box->Document() == activeDocument ? box->Number() : 0;
-}
-
-/// The toolbox follows once the frame is on the screen.
-void FrameView::showEvent(QShowEvent* event) {
-    QMainWindow::showEvent(event);
-    QMetaObject::invokeMethod(toolbox_, &ToolboxView::Refresh, Qt::QueuedConnection);
 }
 
 /// Boxes that are dragged are not for the frame.
