@@ -2,11 +2,13 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <QStyle>
 #include <cstdio>
 #include <cstdlib>
 
 #include "files/document_file.h"
 #include "qt/desktop/dispatch.h"
+#include "qt/desktop/program_style.h"
 #include "qt/desktop/qt_desktop.h"
 #include "qt/desktop/recovery_watch.h"
 #include "qt/frame/frame_view.h"
@@ -40,6 +42,9 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName("Quorvane");
     QApplication::setApplicationVersion(QUORVANE_VERSION);
     QGuiApplication::setDesktopFileName("quorvane");
+    if (QApplication::style()->name() == "fusion") {
+        QApplication::setStyle(new quorvane::ProgramStyle);
+    }
     QApplication::setWindowIcon(QIcon(":/quorvane.svg"));
     // Starting may lead to another folder.
     QStringList diagrams = QApplication::arguments().mid(1);

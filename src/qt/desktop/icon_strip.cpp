@@ -44,7 +44,7 @@ QPixmap CellOnPaper(int cell, int pixels, qreal devicePixelRatio) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     painter.setBrush(PaperColor);
-    painter.drawRoundedRect(QRectF(0, 0, pixels, pixels), 3, 3);
+    painter.drawRoundedRect(QRectF(0, 0, pixels, pixels), pixels / 8.0, pixels / 8.0);
     painter.drawPixmap(0, 0, CellPixmap(cell, pixels, devicePixelRatio));
     return paper;
 }

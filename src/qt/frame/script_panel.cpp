@@ -93,13 +93,23 @@ void ScriptPanel::Refresh() {
         lit_ = 0;
     }
     const bool open = document_ > 0;
-    title_->setText(open ? ToScreen(FileNameOf(DocumentWindow(document_).Caption))
-                         : "No worksheet");
+    ShowTitle();
     script_->setPlaceholderText(open ? "No script: see what is said above" : "");
     copy_->setEnabled(!live.Text.empty());
     picture_->setEnabled(open);
     LightLines();
 }
+
+/// As much of the worksheet's name as there is room for.
+void ScriptPanel::ShowTitle() {
+    const bool open = document_ > 0 && document_ <= Documents.UpperBound() && Documents[document_];
+    const auto name =
+        open ? ToScreen(FileNameOf(DocumentWindow(document_).Caption)) : QString("No worksheet");
+    title_->setToolTip(name);
+    title_->setText(title_->fontMetrics().elidedText(name, Qt::ElideMiddle, title_->width()));
+}
+
+void ScriptPanel::resizeEvent(QResizeEvent*) { ShowTitle(); }
 
 void ScriptPanel::AddBox(int box, const std::string& text) {
     const auto name = box > 0 ? ToScreen(BoxName(box) + ": ") : QString();

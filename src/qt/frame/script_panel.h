@@ -26,8 +26,10 @@ protected:
     void resizeEvent(QResizeEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void hideEvent(QHideEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
 
 private:
+    void ShowTitle();
     void ShowFindings();
     void FitFindings();
     void AddBox(int box, const std::string& text);
