@@ -109,8 +109,6 @@ void ScriptPanel::ShowTitle() {
     title_->setText(title_->fontMetrics().elidedText(name, Qt::ElideMiddle, title_->width()));
 }
 
-void ScriptPanel::resizeEvent(QResizeEvent*) { ShowTitle(); }
-
 void ScriptPanel::AddBox(int box, const std::string& text) {
     const auto name = box > 0 ? ToScreen(BoxName(box) + ": ") : QString();
     auto* item = new QListWidgetItem(name + ToScreen(text), findings_);
@@ -146,7 +144,10 @@ void ScriptPanel::FitFindings() {
     findings_->setFixedHeight(qMin(rows.height() + margins, most));
 }
 
-void ScriptPanel::resizeEvent(QResizeEvent*) { FitFindings(); }
+void ScriptPanel::resizeEvent(QResizeEvent*) {
+    FitFindings();
+    ShowTitle();
+}
 
 /// In the colour of a selection, faintly.
 void ScriptPanel::LightLines() {
