@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: MIT
 #include "compile/console_desktop.h"
 
-#include <sstream>
+#include <string_view>
 
 #include "commands/matrix_input.h"
 #include "platform/numbers.h"
@@ -75,14 +75,14 @@ bool TakeWord(const std::string& answer, const std::string& word, std::string& r
 /// Puts "a b;c d" into the grid from the upper left cell on, which grows as typing would make it.
 void FillGrid(const std::string& cells) {
     auto& grid = frmMatrix.grid;
-    std::istringstream rows(cells);
-    std::string line;
-    for (int row = 1; std::getline(rows, line, ';'); ++row) {
-        std::istringstream words(line);
-        std::string word;
-        for (int col = 1; words >> word; ++col) {
+    std::string_view rows = cells;
+    for (int row = 1; !rows.empty(); ++row) {
+        auto words = TakeUpTo(rows, ";");
+        for (int col = 1; !words.empty();) {
+            const auto word = TakeUpTo(words, " \t\v\f\r\n");
+            if (word.empty()) continue;
             grid.Grow(row + 1, col + 1);
-            grid.Cell(row, col) = word;
+            grid.Cell(row, col++) = word;
         }
     }
 }

@@ -10,6 +10,7 @@
 #include "compile/review.h"
 #include "compile/run_diagram.h"
 #include "compile/set_value.h"
+#include "diagram/arrows.h"
 #include "diagram/worksheet.h"
 #include "files/settings.h"
 #include "generator/compile_document.h"
@@ -78,6 +79,7 @@ int main(int argc, char** argv) {
     if (const auto done = ReadOptions(argc, argv, options)) return *done;
     ConsoleDesktop console;
     desktop = &console;
+    paintsSheets = false;
     console.WriteTranscript = [](const std::string& line) {
         std::fwrite(line.data(), 1, line.size(), stderr);
         std::fputc('\n', stderr);

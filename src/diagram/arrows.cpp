@@ -8,6 +8,8 @@
 
 namespace quorvane {
 
+bool paintsSheets = true;
+
 namespace {
 
 /// Two legs and a head
@@ -111,7 +113,7 @@ void AddArrows(std::vector<DrawnShape>& shapes, int document) {
 }
 
 void RedrawDocument(const std::string& document) {
-    if (document.empty()) return;
+    if (document.empty() || !paintsSheets) return;
     const int number = TextToInt16(document);
     auto& surface = DocumentWindow(number).Surface;
     surface.clear();

@@ -9,6 +9,9 @@
 
 namespace quorvane {
 
+/// False in a program without windows, where nothing is painted since nobody would see it.
+extern bool paintsSheets;
+
 /// What the lines of an arrow are drawn with.
 struct Pen {
     std::int32_t Color = 0;  ///< Red in the low byte

@@ -6,7 +6,7 @@
 #include <cmath>
 #include <numbers>
 #include <set>
-#include <sstream>
+#include <string_view>
 #include <vector>
 
 #include "diagram/arrows.h"
@@ -14,6 +14,7 @@
 #include "diagram/picture_labels.h"
 #include "diagram/worksheet.h"
 #include "platform/numbers.h"
+#include "platform/small_maths.h"
 #include "platform/svg_text.h"
 
 namespace quorvane {
@@ -50,9 +51,11 @@ using Parts = std::array<double, 3>;  // red, green, blue from 0 to 1
 /// As the eye sees it: 0 for black, 1 for white.
 double Luminance(const Parts& parts) {
     constexpr Parts weights = {0.2126, 0.7152, 0.0722};
-    constexpr double gamma = 2.2;
     double sum = 0;
-    for (std::size_t i = 0; i < parts.size(); ++i) sum += weights[i] * std::pow(parts[i], gamma);
+    for (std::size_t i = 0; i < parts.size(); ++i) {
+        // To the power of 2.2.
+        sum += weights[i] * parts[i] * parts[i] * FifthRoot(parts[i]);
+    }
     return sum;
 }
 
@@ -74,7 +77,7 @@ std::int32_t DarkOnWhite(std::int32_t color) {
     }
     std::int32_t result = 0;
     for (std::size_t i = 0; i < 3; ++i) {
-        result |= static_cast<std::int32_t>(std::lround(dark[i] * 255)) << (8 * i);
+        result |= static_cast<std::int32_t>(NearestWhole(dark[i] * 255)) << (8 * i);
     }
     return result;
 }
@@ -103,7 +106,7 @@ std::string PenAttributes(const DrawnShape& shape) {
 /// past it.
 std::string LegsElement(const DrawnShape& first, const DrawnShape* second) {
     const auto across = [half = first.Width / 2.0](double units) {
-        return std::round(units / UnitsPerPixel - half) + half;
+        return static_cast<double>(NearestWhole(units / UnitsPerPixel - half)) + half;
     };
     const auto along = [](double units) { return units / UnitsPerPixel; };
     const bool level = first.Y1 == first.Y2;
@@ -111,7 +114,7 @@ std::string LegsElement(const DrawnShape& first, const DrawnShape* second) {
     std::string path = Point(along(first.X1), y) + " L";
     if (second) {
         const double x = across(second->X1);
-        const double end = std::round(along(second->Y2));
+        const auto end = static_cast<double>(NearestWhole(along(second->Y2)));
         path += Point(x, level ? y : along(first.Y2)) + " L" + Point(x, end);
     } else {
         path += Point(along(first.X2), level ? y : along(first.Y2));
@@ -129,7 +132,8 @@ std::string HeadElement(const DrawnShape& pie, bool onPaper) {
     double sweep = std::abs(pie.EndAngle) - start;
     if (sweep < 0) sweep += 2 * std::numbers::pi;
     const auto rim = [&](double angle) {
-        return Point(x + radius * std::cos(angle), y - radius * std::sin(angle));
+        const auto direction = DirectionOf(angle);
+        return Point(x + radius * direction.X, y - radius * direction.Y);
     };
     return "<path" + PenAttributes(pie) + Attribute("fill", ColorText(onPaper ? pie.Color : 0)) +
            " d=\"M" + Point(x, y) + " L" + rim(start) + " A" + Point(radius, radius) + " 0 " +
@@ -155,7 +159,9 @@ std::string ArrowElements(const Drawing& drawing) {
 
 /// The boxes that show, in the order in which they lie. They stand on whole pixels.
 std::vector<DrawnBox> ShownBoxes(const Worksheet& sheet, int document) {
-    const auto whole = [](double units) { return std::round(units / UnitsPerPixel); };
+    const auto whole = [](double units) {
+        return static_cast<double>(NearestWhole(units / UnitsPerPixel));
+    };
     std::vector<DrawnBox> shown;
     for (int i = 1; i < NextBox; ++i) {
         if (Boxes[i].BoxDocument != document || !sheet.box.Has(i)) continue;
@@ -258,10 +264,10 @@ std::string LabelElements(const Drawing& drawing) {
 std::string IconDrawing(const std::string& file) {
     const auto start = file.find('>', file.find("<svg")), end = file.rfind("</svg>");
     if (end == std::string::npos || start > end) return "";
-    std::istringstream lines(file.substr(start + 1, end - start - 1));
+    std::string_view rest(file.data() + start + 1, end - start - 1);
     std::string drawing;
-    for (std::string line; std::getline(lines, line);) {
-        const auto element = Trimmed(line);
+    while (!rest.empty()) {
+        const auto element = Trimmed(TakeUpTo(rest, "\n"));
         if (!element.starts_with("<!--")) drawing += element;
     }
     return drawing;

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: MIT
 #include "platform/numbers.h"
 
+#include <algorithm>
 #include <cctype>
-#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
 
 #include "platform/runtime_error.h"
+#include "platform/small_maths.h"
 
 namespace quorvane {
 
@@ -46,7 +47,7 @@ NumberShape ShapeOf(std::string_view text) {
 
 template <class Integer>
 Integer Rounded(double value) {
-    const double whole = std::nearbyint(value);
+    const double whole = NearestEven(value);
     if (!(whole >= std::numeric_limits<Integer>::min() &&
           whole <= std::numeric_limits<Integer>::max())) {
         throw RuntimeError(6);
@@ -79,6 +80,12 @@ std::string_view Trimmed(std::string_view text) {
     return text.substr(first, text.find_last_not_of(" \t") - first + 1);
 }
 
+std::string_view TakeUpTo(std::string_view& text, std::string_view ends) {
+    const auto part = text.substr(0, text.find_first_of(ends));
+    text.remove_prefix(std::min(part.size() + 1, text.size()));
+    return part;
+}
+
 bool IsNumeric(std::string_view text) { return ShapeOf(Trimmed(text)) == NumberShape::Number; }
 bool BeginsNumber(std::string_view text) {
     return ShapeOf(Trimmed(text)) == NumberShape::Beginning;
@@ -87,15 +94,9 @@ bool BeginsNumber(std::string_view text) {
 double TextToNumber(std::string_view text) {
     text = Trimmed(text);
     if (ShapeOf(text) != NumberShape::Number) throw RuntimeError(13);
-    if (text[0] == '+') text.remove_prefix(1);
-    double value = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (result.ec == std::errc::result_out_of_range) {
-        // Too small counts as zero, too large is an overflow; only the library can tell which it
-        // is.
-        value = std::strtod(std::string(text).c_str(), nullptr);
-        if (std::isinf(value)) throw RuntimeError(6);
-    }
+    // Too small counts as zero.
+    const double value = std::strtod(std::string(text).c_str(), nullptr);
+    if (std::isinf(value)) throw RuntimeError(6);
     return value;
 }
 

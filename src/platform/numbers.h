@@ -32,6 +32,9 @@ std::string NumberText(std::int64_t number);
 /// The text without the blanks and tabs around it.
 std::string_view Trimmed(std::string_view text);
 
+/// Takes what stands before the first of these letters, or all, from the text, and the letter too.
+std::string_view TakeUpTo(std::string_view& text, std::string_view ends);
+
 /// True for the letters of the name of a variable: A to Z, a to z, digits and "_".
 bool IsNameLetter(char byte);
 

@@ -5,6 +5,7 @@
 #include <cstdio>
 
 #include "platform/numbers.h"
+#include "platform/small_maths.h"
 
 namespace quorvane {
 
@@ -35,7 +36,7 @@ bool IsCharacter(std::string_view text, std::size_t at, std::size_t& length) {
 std::string Pixels(double pixels, int decimals) {
     std::int64_t whole = 1;
     for (int i = 0; i < decimals; ++i) whole *= 10;
-    const std::int64_t parts = std::llround(std::abs(pixels) * static_cast<double>(whole));
+    const std::int64_t parts = NearestWhole(std::abs(pixels) * static_cast<double>(whole));
     auto number = NumberText(parts / whole);
     if (parts % whole != 0) {
         auto digits = NumberText(whole + parts % whole);

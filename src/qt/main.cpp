@@ -3,6 +3,7 @@
 #include <QFileInfo>
 #include <QIcon>
 #include <QStyle>
+#include <clocale>
 #include <cstdio>
 #include <cstdlib>
 
@@ -38,6 +39,8 @@ int main(int argc, char** argv) {
     qInstallMessageHandler(TellFatal);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);
+    // Qt has taken the country's way of writing numbers; diagrams and settings have a point.
+    std::setlocale(LC_NUMERIC, "C");
     QApplication::setApplicationName("Quorvane");
     QApplication::setOrganizationName("Quorvane");
     QApplication::setApplicationVersion(QUORVANE_VERSION);

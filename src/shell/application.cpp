@@ -9,6 +9,7 @@
 #include "commands/matrix_input.h"
 #include "commands/option_list_dialog.h"
 #include "commands/plot_box.h"
+#include "diagram/arrows.h"
 #include "diagram/box_info.h"
 #include "diagram/box_table.h"
 #include "diagram/comment_form.h"
@@ -83,6 +84,7 @@ void ResetApplication() {
     ResetBoxTable();
     ResetDocuments();
     ResetSelection();
+    paintsSheets = true;
     PageRight = 0;
     PageBottom = 0;
     ResetFront();
