@@ -1,111 +1,243 @@
 // SPDX-License-Identifier: MIT
 #include "compile/options.h"
 
-#include <CLI/CLI.hpp>
 #include <algorithm>
+#include <array>
 #include <set>
 #include <string_view>
 #include <vector>
 
 #include "compile/output.h"
 #include "platform/numbers.h"
+#include "platform/runtime_error.h"
 #include "quorvane/version.h"
 
 namespace quorvane {
 
 namespace {
 
-/// The options under their headings in the help, which are called as they are used.
-struct OptionGroup {
-    const char* Heading;
-    std::vector<const char*> Names;
-};
-const OptionGroup groups[] = {
-    {"To compile, as in quorvane-compile -o plot.m plot.qvm",
-     {"--output", "--start-unwired", "--answers", "--mode", "--set"}},
-    {"To run, as in quorvane-compile --run --engine \"ssh host octave-cli\" sums.qvm",
-     {"--run", "--engine", "--start-limit"}},
-    {"To check, as in quorvane-compile --check *.qvm", {"--check"}},
-    {"To draw, as in quorvane-compile --picture plot.pdf --paper plot.qvm",
-     {"--picture", "--paper", "--numbers", "--scale"}},
-    {"To compare, as in quorvane-compile --diff old.qvm new.qvm", {"--describe", "--diff"}},
-    {"For other programs, as in quorvane-compile --describe --json plot.qvm", {"--json"}},
+/// What takes the value of an option, "" for one without; false when it is none for this option.
+using Taker = bool (*)(Options& options, std::string_view value);
+
+/// An option, or a heading of the help, which has a text alone.
+struct OptionRow {
+    std::string_view Letter, Name;
+    std::string_view Value;  ///< What the help calls its value, "" for an option without one
+    std::string_view Text;   ///< What the help says
+    Taker Take = nullptr;
+    std::string_view Excludes = "";  ///< Options that can't be there too, separated by blanks
+    std::string_view Needs = "";     ///< An option that must be there too
+    std::string_view Fitting = "";   ///< What a value must be
+    bool Repeats = false;            ///< Each of several values counts
 };
 
-void AddCompiling(CLI::App& app, Options& options) {
-    app.add_option("-o,--output", options.Output, "Write there instead of to standard output")
-        ->option_text("FILE");
-    app.add_flag("--start-unwired", options.StartUnwired,
-                 "Start at every box without arrows into it, too");
-    app.add_option("--answers", options.AnswersFile, "Answer the run's questions from this file")
-        ->option_text("FILE");
-    app.add_option("--mode", options.Mode,
-                   "1 compiles to text (default), 0 as for MATLAB, text by text")
-        ->check(CLI::IsMember({0, 1}))
-        ->option_text("NUMBER");
+template <bool Options::*Field>
+bool Set(Options& options, std::string_view /*value*/) {
+    return options.*Field = true;
 }
 
-void AddRunning(CLI::App& app, Options& options) {
-    app.add_option("--set", options.Values,
-                   "Another value for a Constant Input or Keyboard Input box; repeatable")
-        ->allow_extra_args(false)
-        ->option_text("BOX=VALUE");
-    auto* run =
-        app.add_flag("--run", options.Run,
-                     "Run the diagram in an engine and print what it prints, exit 4 if a box fails")
-            ->excludes(app.get_option("--output"))
-            ->excludes(app.get_option("--mode"))
-            ->option_text(" ");
-    app.add_option("--engine", options.Engine.Command,
-                   "What starts the engine, such as \"ssh host octave-cli\"; Octave unless given")
-        ->needs(run)
-        ->option_text("COMMAND");
-    app.add_option("--start-limit", options.Engine.StartLimit,
-                   "Give the engine so long to become ready (60), 0 for as long as it takes")
-        ->needs(run)
-        ->option_text("SECONDS");
+template <std::string Options::*Field>
+bool Keep(Options& options, std::string_view value) {
+    options.*Field = value;
+    return true;
 }
 
-CLI::Option* AddPicture(CLI::App& app, PictureOrder& order) {
-    auto* picture =
-        app.add_option("--picture", order.File,
-                       "Draw the diagram into this file, .svg, .pdf or .png; DIR/ draws several")
-            ->option_text("FILE");
-    app.add_flag("--paper", order.Paper, "Draw dark arrows on white, for print")
-        ->option_text(" ")
-        ->needs(picture);
-    app.add_flag("--numbers", order.Numbers, "Write the name of each box below it")
-        ->option_text(" ")
-        ->needs(picture);
-    app.add_option("--scale", order.Scale, "Make a PNG larger or smaller, 0.1 to 10 times")
-        ->check(CLI::Range(0.1, 10.0))
-        ->option_text("NUMBER")
-        ->needs(picture);
-    return picture;
+bool TakeMode(Options& options, std::string_view value) {
+    options.Mode = value == "0" ? 0 : 1;
+    return value == "0" || value == "1";
 }
 
-void AddReviews(CLI::App& app, Options& options) {
-    auto* check = app.add_flag("--check", options.Check,
-                               "Report what would go wrong in a run, exit 1 if anything")
-                      ->option_text(" ");
-    auto* picture = AddPicture(app, options.Picture);
-    auto* describe =
-        app.add_flag("--describe", options.Describe, "List the boxes in lines that can be compared")
-            ->option_text(" ");
-    auto* diff =
-        app.add_flag(
-               "--diff", options.Diff,
-               "Tell what has changed from the first diagram to the second, exit 1 if anything")
-            ->option_text(" ");
-    auto* json = app.add_flag("--json", options.Json, "Print JSON, with --check or --describe")
-                     ->option_text(" ");
-    for (const char* const compiling : {"--output", "--answers", "--mode", "--set", "--run"}) {
-        for (auto* const review : {check, picture, describe, diff}) {
-            review->excludes(app.get_option(compiling));
+bool TakeValue(Options& options, std::string_view value) {
+    options.Values.emplace_back(value);
+    return true;
+}
+
+bool TakeEngine(Options& options, std::string_view value) {
+    options.Engine.Command = value;
+    return true;
+}
+
+bool TakeStartLimit(Options& options, std::string_view value) {
+    const bool isWhole = value.find_first_not_of("0123456789") == std::string_view::npos;
+    const auto read = [&] {
+        options.Engine.StartLimit = static_cast<unsigned>(TextToInt32(value));
+    };
+    return isWhole && Attempt(read);
+}
+
+bool TakePicture(Options& options, std::string_view value) {
+    options.Picture.File = value;
+    return true;
+}
+
+bool TakePaper(Options& options, std::string_view /*value*/) {
+    return options.Picture.Paper = true;
+}
+
+bool TakeNumbers(Options& options, std::string_view /*value*/) {
+    return options.Picture.Numbers = true;
+}
+
+bool TakeScale(Options& options, std::string_view value) {
+    double scale = 0;
+    Attempt([&] { scale = TextToNumber(value); });
+    options.Picture.Scale = scale;
+    return scale >= 0.1 && scale <= 10;
+}
+
+constexpr std::string_view reviews = "--check --picture --describe --diff";
+constexpr std::string_view runAndReviews = "--run --check --picture --describe --diff";
+
+// clang-format off
+// Letter, name, value; text; what takes it, what it excludes, what it needs, what a value must be
+constexpr OptionRow rows[] = {
+    {"", "", "", "Options"},
+    {"-h", "--help", "", "Print this help message and exit", Set<&Options::Help>},
+    {"", "--version", "", "Display program version information and exit", Set<&Options::Version>},
+
+    {"", "", "", "To compile, as in quorvane-compile -o plot.m plot.qvm"},
+    {"-o", "--output", "FILE", "Write there instead of to standard output",
+     Keep<&Options::Output>, runAndReviews},
+    {"", "--start-unwired", "", "Start at every box without arrows into it, too",
+     Set<&Options::StartUnwired>},
+    {"", "--answers", "FILE", "Answer the run's questions from this file",
+     Keep<&Options::AnswersFile>, reviews},
+    {"", "--mode", "NUMBER", "1 compiles to text (default), 0 as for MATLAB, text by text",
+     TakeMode, runAndReviews, "", "0 or 1"},
+    {"", "--set", "BOX=VALUE", "Another value for a Constant Input or Keyboard Input box; repeatable",
+     TakeValue, reviews, "", "", true},
+
+    {"", "", "", "To run, as in quorvane-compile --run --engine \"ssh host octave-cli\" sums.qvm"},
+    {"", "--run", "", "Run the diagram in an engine and print what it prints, exit 4 if a box fails",
+     Set<&Options::Run>, reviews},
+    {"", "--engine", "COMMAND", "What starts the engine, such as \"ssh host octave-cli\"; Octave unless given",
+     TakeEngine, "", "--run"},
+    {"", "--start-limit", "SECONDS", "Give the engine so long to become ready (60), 0 for as long as it takes",
+     TakeStartLimit, "", "--run", "a whole number"},
+
+    {"", "", "", "To check, as in quorvane-compile --check *.qvm"},
+    {"", "--check", "", "Report what would go wrong in a run, exit 1 if anything",
+     Set<&Options::Check>, "--describe --diff"},
+
+    {"", "", "", "To draw, as in quorvane-compile --picture plot.pdf --paper plot.qvm"},
+    {"", "--picture", "FILE", "Draw the diagram into this file, .svg, .pdf or .png; DIR/ draws several",
+     TakePicture, "--describe"},
+    {"", "--paper", "", "Draw dark arrows on white, for print", TakePaper, "", "--picture"},
+    {"", "--numbers", "", "Write the name of each box below it", TakeNumbers, "", "--picture"},
+    {"", "--scale", "NUMBER", "Make a PNG larger or smaller, 0.1 to 10 times",
+     TakeScale, "", "--picture", "a number from 0.1 to 10"},
+
+    {"", "", "", "To compare, as in quorvane-compile --diff old.qvm new.qvm"},
+    {"", "--describe", "", "List the boxes in lines that can be compared",
+     Set<&Options::Describe>, "--diff"},
+    {"", "--diff", "", "Tell what has changed from the first diagram to the second, exit 1 if anything",
+     Set<&Options::Diff>, "--json"},
+
+    {"", "", "", "For other programs, as in quorvane-compile --describe --json plot.qvm"},
+    {"", "--json", "", "Print JSON, with --check or --describe", Set<&Options::Json>},
+};
+// clang-format on
+
+void PrintHelp() {
+    constexpr std::size_t column = 30;
+    std::string help =
+        "Compiles, runs, checks, draws and compares Quorvane diagrams.\n"
+        "Usage: quorvane-compile [OPTIONS] DIAGRAM...\n\n"
+        "Positionals:\n"
+        "  DIAGRAM                     A diagram file (.qvm), - for standard input; several to\n"
+        "                              check, describe and draw, two to tell the difference\n";
+    for (const auto& row : rows) {
+        if (row.Name.empty()) {
+            help.append(&row == rows ? "\n" : "\n\n").append(row.Text).append(":\n");
+            continue;
+        }
+        std::string line = "  ";
+        if (!row.Letter.empty()) line.append(row.Letter).append(",");
+        line.append(row.Name);
+        if (!row.Value.empty()) line.append(" ").append(row.Value);
+        line.resize(column, ' ');
+        help.append(line).append(row.Text).append("\n");
+    }
+    WriteOutput("", help + "\n");
+}
+
+/// The words of the command line, taken one by one, and the first thing that is wrong with them.
+struct Reading {
+    std::vector<std::string_view> Words;
+    std::size_t Next = 0;
+    std::array<int, std::size(rows)> Given = {};  ///< How often each row's option is there
+    std::string Wrong;
+
+    void Complain(std::string_view option, std::string_view what) {
+        if (Wrong.empty()) Wrong.append(option).append(what);
+    }
+};
+
+bool IsGiven(const Reading& reading, std::string_view name) {
+    const auto* const row = std::find_if(std::begin(rows), std::end(rows),
+                                         [&](const auto& each) { return each.Name == name; });
+    return reading.Given[static_cast<std::size_t>(row - rows)] > 0;
+}
+
+/// Takes an option with its value, which stands behind a "=", right behind the letter, or in the
+/// next word.
+void ReadOption(Reading& reading, Options& options, std::string_view word) {
+    const bool isLong = word.starts_with("--");
+    const auto name = word.substr(0, isLong ? word.find('=') : 2);
+    const auto* const row = std::find_if(std::begin(rows), std::end(rows), [&](const auto& each) {
+        return !each.Name.empty() && name == (isLong ? each.Name : each.Letter);
+    });
+    if (row == std::end(rows)) {
+        return reading.Complain("The following argument was not expected: ", word);
+    }
+    ++reading.Given[static_cast<std::size_t>(row - rows)];
+    const bool hasOwn = name.size() < word.size();
+    std::string_view value = hasOwn ? word.substr(name.size() + (isLong ? 1 : 0)) : "";
+    if (row->Value.empty()) {
+        if (hasOwn) return reading.Complain(row->Name, ": it takes no value");
+    } else if (!hasOwn && reading.Next < reading.Words.size()) {
+        value = reading.Words[reading.Next++];
+    } else if (value.empty()) {
+        return reading.Complain(row->Name, std::string(": ").append(row->Value) + " is missing");
+    }
+    if (!row->Take(options, value)) {
+        reading.Complain(row->Name,
+                         std::string(": ").append(value).append(" is not ").append(row->Fitting));
+    }
+}
+
+void ReadWords(Reading& reading, Options& options) {
+    bool onlyDiagrams = false;
+    while (reading.Next < reading.Words.size()) {
+        const auto word = reading.Words[reading.Next++];
+        if (onlyDiagrams || !word.starts_with('-') || word == "-") {
+            options.Diagrams.emplace_back(word);
+        } else if (word == "--") {
+            onlyDiagrams = true;
+        } else {
+            ReadOption(reading, options, word);
         }
     }
-    describe->excludes(check)->excludes(picture);
-    diff->excludes(check)->excludes(describe)->excludes(json);
+}
+
+/// Options that are right each for itself and don't go together.
+void CheckTogether(Reading& reading) {
+    for (const auto& row : rows) {
+        const int given = reading.Given[static_cast<std::size_t>(&row - rows)];
+        if (given == 0) continue;
+        if (given > 1 && !row.Value.empty() && !row.Repeats) {
+            reading.Complain(row.Name, ": it is given more than once");
+        }
+        for (auto others = row.Excludes; !others.empty();) {
+            const auto other = TakeUpTo(others, " ");
+            if (IsGiven(reading, other)) {
+                reading.Complain(row.Name, std::string(" excludes ").append(other));
+            }
+        }
+        if (!row.Needs.empty() && !IsGiven(reading, row.Needs)) {
+            reading.Complain(row.Name, std::string(" requires ").append(row.Needs));
+        }
+    }
 }
 
 std::string PictureContradiction(const Options& options) {
@@ -144,40 +276,23 @@ std::string Contradiction(const Options& options) {
     return PictureContradiction(options);
 }
 
-/// True for a compile with no other option than "-o", which most are. It does without the other
-/// options: to make them takes a quarter of the time of the whole program.
-bool IsPlain(int argc, char** argv) {
-    return std::none_of(argv + 1, argv + argc, [](std::string_view word) {
-        return word.starts_with('-') && word != "-" && word != "-o";
-    });
-}
-
 }  // namespace
 
 std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
-    CLI::App app("Compiles, runs, checks, draws and compares Quorvane diagrams.",
-                 "quorvane-compile");
-    app.set_version_flag("--version", "quorvane-compile " QUORVANE_VERSION);
-    app.add_option("DIAGRAM", options.Diagrams,
-                   "A diagram file (.qvm), - for standard input; several to\n"
-                   "check, describe and draw, two to tell the difference")
-        ->required()
-        ->option_text(" ");
-    AddCompiling(app, options);
-    if (!IsPlain(argc, argv)) {
-        AddRunning(app, options);
-        AddReviews(app, options);
-        for (const auto& group : groups) {
-            for (const auto* const name : group.Names) app.get_option(name)->group(group.Heading);
-        }
+    Reading reading;
+    reading.Words.assign(argv + 1, argv + argc);
+    ReadWords(reading, options);
+    if (options.Help) {
+        PrintHelp();
+        return RunFinished;
     }
-    try {
-        app.parse(argc, argv);
-    } catch (const CLI::Success& success) {
-        return app.exit(success);
-    } catch (const CLI::ParseError& error) {
-        return Refuse(error.what() + std::string("; see quorvane-compile --help"));
+    if (options.Version) {
+        WriteOutput("", "quorvane-compile " QUORVANE_VERSION "\n");
+        return RunFinished;
     }
+    if (options.Diagrams.empty()) reading.Complain("DIAGRAM", " is required");
+    CheckTogether(reading);
+    if (!reading.Wrong.empty()) return Refuse(reading.Wrong + "; see quorvane-compile --help");
     const auto wrong = Contradiction(options);
     return wrong.empty() ? std::nullopt : std::optional(Refuse(wrong));
 }

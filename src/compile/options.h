@@ -36,6 +36,8 @@ struct Options {
     bool Diff = false;  ///< Between two diagrams, the older one first
     bool Json = false;
     PictureOrder Picture;
+    bool Help = false;
+    bool Version = false;
 
     /// True when the diagrams are looked at and none is compiled.
     bool IsReview() const { return Check || Describe || Diff || !Picture.File.empty(); }
