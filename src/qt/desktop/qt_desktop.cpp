@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLayout>
 #include <QMessageBox>
 #include <QSettings>
@@ -172,6 +173,15 @@ QString StoreKey(const std::string& section, const std::string& key) {
     return ToScreen(section) + "/" + ToScreen(key);
 }
 
+/// A text that is a little longer than the box's own measure would leave its last word alone.
+void KeepOnOneLine(const QMessageBox& box) {
+    constexpr int widest = 640;
+    auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+    if (!label) return;
+    const int width = label->fontMetrics().size(0, box.text()).width();
+    if (width <= widest) label->setMinimumWidth(width);
+}
+
 }  // namespace
 
 Answer QtDesktop::MsgBox(const Message& message) {
@@ -186,6 +196,7 @@ Answer QtDesktop::MsgBox(const Message& message) {
     box.setWindowTitle(ToScreen(message.Title));
     box.setTextFormat(Qt::PlainText);
     box.setText(ToScreen(message.Text));
+    KeepOnOneLine(box);
     return AnswerOf(box.exec());
 }
 

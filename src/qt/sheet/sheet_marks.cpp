@@ -164,7 +164,13 @@ void PaintHighlight(QPainter& painter, const BoxHighlight& highlight, const Shee
     auto halo = highlight.Arrows;
     for (auto& shape : halo) shape.Color = ColorNumber(HaloColor);
     PaintShapes(painter, halo, scale, HaloWidth);
-    PaintShapes(painter, highlight.Arrows, scale, BrightWidth);
+    // No leg crosses a head, and a head's edge leaves its dark inside free.
+    std::vector<DrawnShape> legs, heads;
+    for (const auto& shape : highlight.Arrows) {
+        (shape.Shape == DrawnShape::Kind::Line ? legs : heads).push_back(shape);
+    }
+    PaintShapes(painter, legs, scale, BrightWidth);
+    PaintShapes(painter, heads, scale);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setFont(MarkFont(painter.font()));
     for (const auto& mark : highlight.Ends) PaintMark(painter, mark, scale);
