@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: MIT
 #include "compile/options.h"
 
+#include <getopt.h>
+
 #include <algorithm>
 #include <array>
 #include <set>
@@ -148,7 +150,7 @@ void PrintHelp() {
         "                              check, describe and draw, two to tell the difference\n";
     for (const auto& row : rows) {
         if (row.Name.empty()) {
-            help.append(&row == rows ? "\n" : "\n\n").append(row.Text).append(":\n");
+            help.append(&row == rows ? "" : "\n").append(row.Text).append(":\n");
             continue;
         }
         std::string line = "  ";
@@ -161,10 +163,8 @@ void PrintHelp() {
     WriteOutput("", help + "\n");
 }
 
-/// The words of the command line, taken one by one, and the first thing that is wrong with them.
+/// What is there of the options, and the first thing that is wrong with them.
 struct Reading {
-    std::vector<std::string_view> Words;
-    std::size_t Next = 0;
     std::array<int, std::size(rows)> Given = {};  ///< How often each row's option is there
     std::string Wrong;
 
@@ -179,45 +179,68 @@ bool IsGiven(const Reading& reading, std::string_view name) {
     return reading.Given[static_cast<std::size_t>(row - rows)] > 0;
 }
 
-/// Takes an option with its value, which stands behind a "=", right behind the letter, or in the
-/// next word.
-void ReadOption(Reading& reading, Options& options, std::string_view word) {
-    const bool isLong = word.starts_with("--");
-    const auto name = word.substr(0, isLong ? word.find('=') : 2);
-    const auto* const row = std::find_if(std::begin(rows), std::end(rows), [&](const auto& each) {
-        return !each.Name.empty() && name == (isLong ? each.Name : each.Letter);
-    });
-    if (row == std::end(rows)) {
-        return reading.Complain("The following argument was not expected: ", word);
-    }
-    ++reading.Given[static_cast<std::size_t>(row - rows)];
-    const bool hasOwn = name.size() < word.size();
-    std::string_view value = hasOwn ? word.substr(name.size() + (isLong ? 1 : 0)) : "";
-    if (row->Value.empty()) {
-        if (hasOwn) return reading.Complain(row->Name, ": it takes no value");
-    } else if (!hasOwn && reading.Next < reading.Words.size()) {
-        value = reading.Words[reading.Next++];
-    } else if (value.empty()) {
-        return reading.Complain(row->Name, std::string(": ").append(row->Value) + " is missing");
-    }
-    if (!row->Take(options, value)) {
-        reading.Complain(row->Name,
-                         std::string(": ").append(value).append(" is not ").append(row->Fitting));
+/// What getopt_long calls the option of a row: its letter, or a number beyond all letters.
+int CodeOf(std::size_t row) {
+    constexpr int beyondLetters = 256;
+    const auto& letter = rows[row].Letter;
+    return letter.empty() ? beyondLetters + static_cast<int>(row) : letter[1];
+}
+
+/// The row of a code, the number of rows for an option that isn't there.
+std::size_t RowOf(int code) {
+    std::size_t row = 0;
+    while (row < std::size(rows) && (rows[row].Name.empty() || CodeOf(row) != code)) ++row;
+    return row;
+}
+
+void TakeOption(Reading& reading, Options& options, std::size_t index) {
+    const auto& row = rows[index];
+    ++reading.Given[index];
+    const std::string_view value = row.Value.empty() ? "" : optarg;
+    if (!row.Value.empty() && value.empty()) {
+        reading.Complain(row.Name, std::string(": ").append(row.Value) + " is missing");
+    } else if (!row.Take(options, value)) {
+        reading.Complain(row.Name,
+                         std::string(": ").append(value).append(" is not ").append(row.Fitting));
     }
 }
 
-void ReadWords(Reading& reading, Options& options) {
-    bool onlyDiagrams = false;
-    while (reading.Next < reading.Words.size()) {
-        const auto word = reading.Words[reading.Next++];
-        if (onlyDiagrams || !word.starts_with('-') || word == "-") {
-            options.Diagrams.emplace_back(word);
-        } else if (word == "--") {
-            onlyDiagrams = true;
-        } else {
-            ReadOption(reading, options, word);
+/// An option without the value that it needs, with one that it doesn't take, or that isn't there.
+void RefuseOption(Reading& reading, bool lacksValue, const char* word) {
+    const auto row = RowOf(optopt);
+    if (row == std::size(rows)) {
+        const char letter[] = {'-', static_cast<char>(optopt), 0};
+        reading.Complain(optopt == 0 ? word : letter, ": there is no such option");
+    } else if (lacksValue) {
+        reading.Complain(rows[row].Name, std::string(": ").append(rows[row].Value) + " is missing");
+    } else {
+        reading.Complain(rows[row].Name, ": it takes no value");
+    }
+}
+
+/// Reads the words of the command line; those that belong to no option name diagrams.
+void ReadWords(Reading& reading, Options& options, int argc, char** argv) {
+    std::vector<option> names;
+    std::string letters = ":";  // Tells a missing value from an unknown option
+    for (std::size_t i = 0; i < std::size(rows); ++i) {
+        const auto& row = rows[i];
+        if (row.Name.empty()) continue;
+        const int value = row.Value.empty() ? no_argument : required_argument;
+        names.push_back({row.Name.data() + 2, value, nullptr, CodeOf(i)});
+        if (row.Letter.empty()) continue;
+        letters.append(row.Letter.substr(1)).append(row.Value.empty() ? "" : ":");
+    }
+    names.push_back({});
+    opterr = 0;
+    for (int code = 0; code != -1;) {
+        code = getopt_long(argc, argv, letters.c_str(), names.data(), nullptr);
+        if (code == '?' || code == ':') {
+            RefuseOption(reading, code == ':', argv[optind - 1]);
+        } else if (code != -1) {
+            TakeOption(reading, options, RowOf(code));
         }
     }
+    options.Diagrams.assign(argv + optind, argv + argc);
 }
 
 /// Options that are right each for itself and don't go together.
@@ -280,8 +303,7 @@ std::string Contradiction(const Options& options) {
 
 std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
     Reading reading;
-    reading.Words.assign(argv + 1, argv + argc);
-    ReadWords(reading, options);
+    ReadWords(reading, options, argc, argv);
     if (options.Help) {
         PrintHelp();
         return RunFinished;
@@ -290,7 +312,7 @@ std::optional<int> ReadOptions(int argc, char** argv, Options& options) {
         WriteOutput("", "quorvane-compile " QUORVANE_VERSION "\n");
         return RunFinished;
     }
-    if (options.Diagrams.empty()) reading.Complain("DIAGRAM", " is required");
+    if (options.Diagrams.empty()) reading.Complain("DIAGRAM", ": name at least one");
     CheckTogether(reading);
     if (!reading.Wrong.empty()) return Refuse(reading.Wrong + "; see quorvane-compile --help");
     const auto wrong = Contradiction(options);
