@@ -1,6 +1,7 @@
 # Brings the tree that goes into the Debian package into the form that Debian's policy asks for:
-# packed manual pages and changelog and the licence as "copyright".
+# packed manual pages, the change lists, and "copyright" with the licences of all that is compiled in.
 
+include("${CMAKE_CURRENT_LIST_DIR}/releases.cmake")
 set(tree "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/usr/share")
 set(doc "${tree}/doc/quorvane")
 find_program(GZIP gzip REQUIRED)
@@ -13,6 +14,31 @@ string(STRIP "${licence}" licence)
 string(REPLACE "\n\n" "\n.\n" licence "${licence}")
 string(REPLACE "\n" "\n " licence "${licence}")
 string(REPLACE "Copyright (c) " "" holder "${holder}")
+
+# The headers whose code is in quorvane-compile come from Debian packages, which name their holders and
+# bring the licence along.
+function(read_holders package holders)
+    file(READ "/usr/share/doc/${package}/copyright" rest)
+    set(found "")
+    while(rest MATCHES "\nFiles: (\\*|include/[^\n]*)\nCopyright: ([^\n]*)(.*)")
+        list(APPEND found "${CMAKE_MATCH_2}")
+        set(rest "${CMAKE_MATCH_3}")
+    endwhile()
+    list(JOIN found "\n           " found)
+    set(${holders} "${found}" PARENT_SCOPE)
+endfunction()
+read_holders(libcli11-dev cli11_holders)
+read_holders(nlohmann-json3-dev json_holders)
+file(READ /usr/share/doc/libcli11-dev/copyright cli11)
+string(REGEX MATCH "\nLicense: BSD-3-clause\n .*" cli11_licence "${cli11}")
+string(REGEX REPLACE "[ \t]+\n" "\n" cli11_licence "${cli11_licence}")
+string(STRIP "${cli11_licence}" cli11_licence)
+foreach(needed cli11_holders json_holders cli11_licence)
+    if(NOT ${needed})
+        message(FATAL_ERROR "${needed} can't be read from the copyright files in /usr/share/doc")
+    endif()
+endforeach()
+
 file(WRITE "${doc}/copyright"
 "Format: https://www.debian.org/doc/packaging-manuals/copyright-format/1.0/
 Upstream-Name: Quorvane
@@ -21,21 +47,55 @@ Files: *
 Copyright: ${holder}
 License: Expat
 
+Files: CLI11/*
+Copyright: ${cli11_holders}
+License: BSD-3-clause
+Comment: Compiled into quorvane-compile from its headers.
+
+Files: nlohmann-json/*
+Copyright: ${json_holders}
+License: Expat
+Comment: Compiled into quorvane-compile from its headers.
+
+Files: libstdc++/* libgcc/*
+Copyright: Free Software Foundation, Inc.
+License: GPL-3+ with GCC-Runtime-Library-Exception-3.1
+Comment: Linked statically into quorvane-compile.
+
 License: Expat
  ${licence}
+
+${cli11_licence}
+
+License: GPL-3+ with GCC-Runtime-Library-Exception-3.1
+ The GNU General Public License, version 3, is in /usr/share/common-licenses/GPL-3. The exception
+ allows these libraries to be part of programs under any licence.
 ")
 file(REMOVE "${doc}/LICENSE")
 
-# The change list of the program, and beside it the one of the package, which only points there.
+# The change list of the program, and beside it the one of the package, which only points there. The
+# newest release is dated by the time of packing.
 file(RENAME "${doc}/CHANGELOG.md" "${doc}/changelog")
-string(TIMESTAMP now "%a, %d %b %Y %H:%M:%S +0000" UTC)
-file(WRITE "${doc}/changelog.Debian"
-"quorvane (${CPACK_PACKAGE_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
+read_releases("${doc}/changelog" release)
+string(TIMESTAMP when "%Y-%m-%d %H:%M:%S" UTC)
+set(entries "")
+foreach(version date IN ZIP_LISTS release_VERSIONS release_DATES)
+    if(entries)
+        set(when "${date} 00:00:00")
+    endif()
+    execute_process(COMMAND date -u -R -d "${when}" OUTPUT_VARIABLE dated
+        OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
+    string(APPEND entries
+"quorvane (${version}-${CPACK_DEBIAN_PACKAGE_RELEASE}) unstable; urgency=medium
 
   * See changelog.gz for what is new in the program.
 
- -- ${CPACK_PACKAGE_CONTACT}  ${now}
+ -- ${CPACK_PACKAGE_CONTACT}  ${dated}
+
 ")
+endforeach()
+string(STRIP "${entries}" entries)
+file(WRITE "${doc}/changelog.Debian" "${entries}\n")
 file(READ "${doc}/README.md" readme)
 string(REPLACE "(CHANGELOG.md)" "(changelog.gz)" readme "${readme}")
 string(REPLACE "(LICENSE)" "(copyright)" readme "${readme}")

@@ -6,6 +6,7 @@
 #include <clocale>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "files/document_file.h"
 #include "qt/desktop/dispatch.h"
@@ -36,6 +37,10 @@ void TellFatal(QtMsgType type, const QMessageLogContext& context, const QString&
 }  // namespace
 
 int main(int argc, char** argv) {
+    if (argc == 2 && std::string_view(argv[1]) == "--version") {
+        std::printf("quorvane %s\n", QUORVANE_VERSION);
+        return 0;
+    }
     qInstallMessageHandler(TellFatal);
     QApplication application(argc, argv);
     qInstallMessageHandler(nullptr);

@@ -1,0 +1,20 @@
+# read_releases(FILE PREFIX): the releases that a change list tells of, newest first. PREFIX_VERSIONS and
+# PREFIX_DATES are lists of equal length; PREFIX_<version> is what stands below a version's head, in
+# one line. A head without such sentences counts for none.
+function(read_releases file prefix)
+    file(READ "${file}" rest)
+    set(versions "")
+    set(dates "")
+    while(rest MATCHES "\n## \\[([0-9.]+)\\] - ([0-9-]+)\n\n([^#\n][^\n]*(\n[^\n]+)*)")
+        list(APPEND versions "${CMAKE_MATCH_1}")
+        list(APPEND dates "${CMAKE_MATCH_2}")
+        string(REPLACE "\n" " " sentences "${CMAKE_MATCH_3}")
+        set(${prefix}_${CMAKE_MATCH_1} "${sentences}" PARENT_SCOPE)
+        string(LENGTH "${CMAKE_MATCH_0}" length)
+        string(FIND "${rest}" "${CMAKE_MATCH_0}" begin)
+        math(EXPR end "${begin} + ${length}")
+        string(SUBSTRING "${rest}" ${end} -1 rest)
+    endwhile()
+    set(${prefix}_VERSIONS "${versions}" PARENT_SCOPE)
+    set(${prefix}_DATES "${dates}" PARENT_SCOPE)
+endfunction()
