@@ -13,9 +13,9 @@ namespace quorvane {
 /// mode, or for some seconds.
 void Say(const std::string& text);
 
-/// The state in words: what was said, what is pending, what could not be saved, what is selected, how
-/// many findings this document has if they are wanted, or how to begin on it; 0 is no document, and ""
-/// says nothing.
+/// The state in words: what was said, what is pending, what could not be saved, what is selected,
+/// how many findings this document has if they are wanted, or how to begin on it; 0 is no document,
+/// and "" says nothing.
 std::string BarState(int document, bool withFindings);
 
 /// Opens the dialog of a box for a change, and says so where it has none. What is pending is given

@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QMdiArea>
 #include <QMenu>
 #include <QShortcut>
 #include <QTimer>
@@ -230,13 +231,15 @@ void BarView::OpenQuick(bool boxesOnly) {
     if (AnyWorksheet()) popup_->Open(QCursor::pos(), "", boxesOnly);
 }
 
-/// From the field the focus goes back to the worksheet; there, what is pending is given up.
+/// The focus goes back to the worksheet; but for what was typed, what is pending is given up, too.
 void BarView::Escape() {
     if (quick_->hasFocus()) {
         quick_->clear();
-        frameView->FocusWorksheet(activeDocument);
     } else {
         Dispatch([] { GiveUp(); });
+    }
+    if (!frameView->Area()->isAncestorOf(window()->focusWidget())) {
+        frameView->FocusWorksheet(activeDocument);
     }
 }
 

@@ -99,6 +99,7 @@ BoxesPanel::BoxesPanel(QWidget* parent) : QWidget(parent) {
     boxes_->setToolTip(
         "Enter shows the box, Shift+Enter its information, F2 changes it, Delete deletes it");
     boxes_->installEventFilter(this);
+    setFocusProxy(boxes_);
     auto* rows = new QVBoxLayout(this);
     rows->setContentsMargins(4, 4, 4, 4);
     auto* head = new QHBoxLayout;

@@ -16,6 +16,7 @@
 #include <QSplitter>
 #include <QVBoxLayout>
 #include <cmath>
+#include <iterator>
 #include <utility>
 
 #include "diagram/box_table.h"
@@ -328,6 +329,21 @@ void FrameView::FocusWorksheet(int document) {
     activateWindow();
     area_->setActiveSubWindow(static_cast<QMdiSubWindow*>(view->parentWidget()));
     if (!view->isAncestorOf(focusWidget())) view->setFocus();
+}
+
+void FrameView::GoToNextPart() {
+    QWidget* const parts[] = {ActiveView(), boxes_, script_, toolbox_};
+    const auto* focused = QApplication::focusWidget();
+    std::size_t at = toolbox_->isActiveWindow() ? 3 : 0;
+    for (std::size_t i = 0; i < std::size(parts); ++i) {
+        if (focused && parts[i] && parts[i]->isAncestorOf(focused)) at = i;
+    }
+    do at = (at + 1) % std::size(parts);
+    while (at > 0 && !parts[at]->isVisible());
+    activateWindow();
+    if (at == 0) return FocusWorksheet(activeDocument);
+    if (parts[at] == toolbox_) return toolbox_->TakeFocus();
+    parts[at]->setFocus(Qt::ShortcutFocusReason);
 }
 
 void FrameView::ShowBox(int number) {

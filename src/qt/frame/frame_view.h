@@ -31,6 +31,8 @@ public:
     void Arrange(int how);
     /// Gives the focus to the worksheet of this document, if it is there.
     void FocusWorksheet(int document);
+    /// Gives the focus to the next part that shows: worksheet, panels, toolbox.
+    void GoToNextPart();
     /// The view of the active worksheet, nullptr when there is none.
     WorksheetView* ActiveView() const { return ViewOf(activeDocument); }
     /// Brings the worksheet of a box to the front and scrolls it so that the box is seen.

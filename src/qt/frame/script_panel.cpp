@@ -61,6 +61,7 @@ ScriptPanel::ScriptPanel(QWidget* parent) : QWidget(parent) {
     script_->setLineWrapMode(QPlainTextEdit::NoWrap);
     script_->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     script_->viewport()->installEventFilter(this);
+    setFocusProxy(script_);
     auto* head = new QHBoxLayout;
     head->addWidget(title_, 1);
     head->addWidget(copy_);

@@ -43,6 +43,8 @@ constexpr SheetKey Keys[] = {
 }  // namespace
 
 void AddSheetKeys(FrameView& frame) {
+    QObject::connect(new QShortcut(QKeySequence("F6"), &frame), &QShortcut::activated, &frame,
+                     &FrameView::GoToNextPart);
     for (const auto& row : Keys) {
         auto* key = new QShortcut(QKeySequence(row.Keys), &frame);
         QObject::connect(key, &QShortcut::activated, &frame, [&frame, action = row.Action] {

@@ -6,7 +6,6 @@
 #include <QKeyEvent>
 #include <QMdiArea>
 #include <QScreen>
-#include <QShortcut>
 #include <QToolButton>
 #include <algorithm>
 
@@ -53,8 +52,6 @@ ToolboxView::ToolboxView(FrameView& frame)
     connect(settled_, &QTimer::timeout, this, &ToolboxView::TakePlace);
     frame.installEventFilter(this);
     frame.Area()->viewport()->installEventFilter(this);
-    connect(new QShortcut(QKeySequence("F6"), &frame), &QShortcut::activated, this,
-            [this] { isActiveWindow() ? LeaveFocus() : TakeFocus(); });
 }
 
 void ToolboxView::Refresh() {
@@ -144,7 +141,6 @@ QToolButton* ToolboxView::Button(int number) const {
 }
 
 void ToolboxView::TakeFocus() {
-    if (!isVisible()) return;
     activateWindow();
     if (!focusWidget() && Button(1)) Button(1)->setFocus(Qt::ShortcutFocusReason);
 }

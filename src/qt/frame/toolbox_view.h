@@ -18,6 +18,8 @@ class ToolboxView : public QWidget {
 public:
     explicit ToolboxView(FrameView& frame);
     void Refresh();
+    /// Gives the focus to the button that had it last.
+    void TakeFocus();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -33,7 +35,6 @@ private:
     QToolButton* Button(int number) const;
     void FollowFrame();
     void TakePlace();
-    void TakeFocus();
     void LeaveFocus();
     bool PressKey(int key);
 
