@@ -15,29 +15,18 @@ string(REPLACE "\n\n" "\n.\n" licence "${licence}")
 string(REPLACE "\n" "\n " licence "${licence}")
 string(REPLACE "Copyright (c) " "" holder "${holder}")
 
-# The headers whose code is in quorvane-compile come from Debian packages, which name their holders and
-# bring the licence along.
-function(read_holders package holders)
-    file(READ "/usr/share/doc/${package}/copyright" rest)
-    set(found "")
-    while(rest MATCHES "\nFiles: (\\*|include/[^\n]*)\nCopyright: ([^\n]*)(.*)")
-        list(APPEND found "${CMAKE_MATCH_2}")
-        set(rest "${CMAKE_MATCH_3}")
-    endwhile()
-    list(JOIN found "\n           " found)
-    set(${holders} "${found}" PARENT_SCOPE)
-endfunction()
-read_holders(libcli11-dev cli11_holders)
-read_holders(nlohmann-json3-dev json_holders)
-file(READ /usr/share/doc/libcli11-dev/copyright cli11)
-string(REGEX MATCH "\nLicense: BSD-3-clause\n .*" cli11_licence "${cli11}")
-string(REGEX REPLACE "[ \t]+\n" "\n" cli11_licence "${cli11_licence}")
-string(STRIP "${cli11_licence}" cli11_licence)
-foreach(needed cli11_holders json_holders cli11_licence)
-    if(NOT ${needed})
-        message(FATAL_ERROR "${needed} can't be read from the copyright files in /usr/share/doc")
-    endif()
-endforeach()
+# The headers whose code is in quorvane-compile come from a Debian package, which names their holders.
+# Their licence is the same as ours.
+file(READ "/usr/share/doc/nlohmann-json3-dev/copyright" rest)
+set(holders "")
+while(rest MATCHES "\nFiles: (\\*|include/[^\n]*)\nCopyright: ([^\n]*)\nLicense: Expat\n(.*)")
+    list(APPEND holders "${CMAKE_MATCH_2}")
+    set(rest "${CMAKE_MATCH_3}")
+endwhile()
+list(JOIN holders "\n           " holders)
+if(NOT holders)
+    message(FATAL_ERROR "The copyright file of nlohmann-json3-dev names no holder")
+endif()
 
 file(WRITE "${doc}/copyright"
 "Format: https://www.debian.org/doc/packaging-manuals/copyright-format/1.0/
@@ -47,13 +36,8 @@ Files: *
 Copyright: ${holder}
 License: Expat
 
-Files: CLI11/*
-Copyright: ${cli11_holders}
-License: BSD-3-clause
-Comment: Compiled into quorvane-compile from its headers.
-
 Files: nlohmann-json/*
-Copyright: ${json_holders}
+Copyright: ${holders}
 License: Expat
 Comment: Compiled into quorvane-compile from its headers.
 
@@ -64,8 +48,6 @@ Comment: Linked statically into quorvane-compile.
 
 License: Expat
  ${licence}
-
-${cli11_licence}
 
 License: GPL-3+ with GCC-Runtime-Library-Exception-3.1
  The GNU General Public License, version 3, is in /usr/share/common-licenses/GPL-3. The exception

@@ -27,6 +27,8 @@ struct LinkDoor {
     std::function<void()> StartMatlab = [] {};
     /// A run of so many boxes begins.
     std::function<void(int boxes)> Begin = [](int) {};
+    /// The user has closed the program meanwhile: the run is given up without a word.
+    std::function<bool()> IsLeft = [] { return false; };
 };
 extern LinkDoor matlabLink;
 

@@ -95,9 +95,9 @@ int TakeBoxName(std::string_view& line) {
     return number;
 }
 
-void GiveUp() {
+void GiveUp(const std::string& message) {
     ClearMarks();
-    Tell("DDE Error. Could not compile. Try compiling to the clipboard.", Icon::Information);
+    if (!message.empty()) Tell(message, Icon::Information);
     UpdateBoxGauge(BoxTableFill());
     SetPointerAll(PointerDefault);
 }
@@ -182,7 +182,7 @@ bool SendToMatlab(Run& run, std::string_view boxType) {
     sender.Text = run.scriptText;
     PrepareLink(sender, "EngEvalString");
     if (!Execute(sender, run.boxOfLine)) {
-        GiveUp();
+        GiveUp("DDE Error. Could not compile. Try compiling to the clipboard.");
         return false;
     }
     run.Policy = ErrorPolicy::Ignore;
@@ -194,7 +194,9 @@ bool SendToMatlab(Run& run, std::string_view boxType) {
     sender.Text.clear();
     run.scriptText.clear();
     run.boxOfLine.clear();
-    return true;
+    if (!matlabLink.IsLeft()) return true;
+    GiveUp("");
+    return false;
 }
 
 }  // namespace quorvane

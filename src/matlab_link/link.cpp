@@ -75,6 +75,7 @@ struct Engine {
     bool HasFigures = false;
 };
 Engine engine;
+bool runIsLeft = false;
 
 /// A script that runs.
 struct Job {
@@ -325,7 +326,7 @@ void WaitForEnd(Job& job) {
         if (linkListener.Printed && news.Bytes.empty()) LookAtLineEnd(job.Reader);
         PassOn(job);
         LimitAnswer(job.Reader);
-        if (news.Escape) BreakOff(job);
+        if (news.Escape || runIsLeft) BreakOff(job);
         LookAtClock(job);
     }
 }
@@ -359,6 +360,7 @@ void StartLink(const std::string& program, std::vector<std::string> words) {
     fresh.Token = DrawToken();
     if (!row.IsOctave) fresh.Folder.Make(fresh.Token);
     words.insert(words.end(), row.Arguments.begin(), row.Arguments.end());
+    runIsLeft = false;
     desktop->StartEngine(program, words);
     engine = std::move(fresh);
     RunScript("", {});
@@ -367,12 +369,15 @@ void StartLink(const std::string& program, std::vector<std::string> words) {
 }
 
 bool LinkIsBusy() { return engine.Busy; }
+void LeaveRun() { runIsLeft = true; }
+bool RunIsLeft() { return runIsLeft; }
 
 void LinkOpen() {
     if (!Answers() && engine.Answer.empty()) throw RuntimeError(NoApplicationAnswered);
 }
 
 void LinkExecute(const std::string& script, const LineBoxes& boxes) {
+    if (runIsLeft) return;
     if (!Answers()) throw RuntimeError(NoApplicationAnswered);
     engine.Answer.clear();
     ReportSent(boxes);
@@ -394,6 +399,7 @@ std::string LinkRequest() { return std::exchange(engine.Answer, ""); }
 /// When the block really is open, the engine runs none of it and complains about the missing end.
 std::string LinkFinish(bool come) {
     linkReport.Box = NoBox;
+    runIsLeft = false;
     const auto rest = std::exchange(engine.Kept, "");
     const auto boxes = std::exchange(engine.KeptBoxes, {});
     if (rest.empty() || !come || !Answers()) return "";
@@ -414,6 +420,7 @@ void LookAfterFigures() {
 
 void ResetLink() {
     engine = {};
+    runIsLeft = false;
     linkListener = {};
 }
 

@@ -31,6 +31,10 @@ extern LinkListener linkListener;
 void StartLink(const std::string& program, std::vector<std::string> words = {});
 /// True while a script runs.
 bool LinkIsBusy();
+/// The user closes the program while a script runs: it is broken off as by Escape, and nothing more
+/// is sent until the run has ended.
+void LeaveRun();
+bool RunIsLeft();
 
 /// Error 282 when nothing answers. What an engine printed before it ended can still be fetched.
 void LinkOpen();

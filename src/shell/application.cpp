@@ -100,7 +100,7 @@ void ResetApplication() {
     ResetReport();
     ResetShownReports();
     matlabLink = {LinkOpen,   LinkExecute, LinkRequest, LinkFinish, mnuFileStartMatlab_Click,
-                  BeginReport};
+                  BeginReport, RunIsLeft};
     ProgramDirectory.clear();
     HelpFile = Manual;
     TourStep = 0;

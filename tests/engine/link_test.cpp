@@ -7,13 +7,16 @@
 #include <QWidget>
 #include <deque>
 
+#include "diagram/box_table.h"
 #include "engine/examples.h"
+#include "files/document_file.h"
 #include "generator/send_to_matlab.h"
 #include "matlab_link/link.h"
 #include "matlab_link/run_report.h"
 #include "platform/runtime_error.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/qt_desktop.h"
+#include "qt/frame/frame_view.h"
 #include "support/step_test.h"
 
 namespace quorvane::testing {
@@ -23,6 +26,7 @@ namespace {
 struct LinkDesktop : QtDesktop {
     std::deque<std::string> Answers;
     std::vector<std::string> Asked;
+    bool Ended = false;
 
     std::string InputBox(const std::string& prompt, const std::string&,
                          const std::string&) override {
@@ -32,6 +36,7 @@ struct LinkDesktop : QtDesktop {
         Answers.pop_front();
         return answer;
     }
+    void EndProgram() override { Ended = true; }
     /// Questions are answered from a list too, "y" and all else.
     Answer MsgBox(const Message& message) override {
         if (message.Choice == Buttons::Ok) return Answer::Ok;
@@ -74,7 +79,8 @@ struct LinkTest : StepTest {
     void SetUp() override {
         StepTest::SetUp();
         desktop = &screen;
-        matlabLink = {LinkOpen, LinkExecute, LinkRequest, LinkFinish, StartOctave};
+        matlabLink = {LinkOpen,    LinkExecute, LinkRequest, LinkFinish,
+                      StartOctave, BeginReport, RunIsLeft};
         escape_.setSingleShot(true);
         escape_.callOnTimeout(&window, [this] {
             QApplication::postEvent(
@@ -187,6 +193,24 @@ TEST_F(LinkTest, NothingStartsWhileAScriptRuns) {
     EXPECT_EQ(started, 0);
     start();
     EXPECT_EQ(started, 1);
+}
+
+/// Closing the frame breaks off the box that runs and sends no other; the frame closes behind that.
+TEST_F(LinkTest, ClosingTheFrameStopsTheRunFirst) {
+    FrameView frame;
+    const auto hangs =
+        "Constant Input~system('sleep 20')\r\n-1~-1~-1~0~0~0~0~0~0~0~0~0~0\r\n0~0~\r\n";
+    WriteAll("hangs.qvm", std::string("2\r\n") + hangs + hangs);
+    LoadDocumentFile("hangs.qvm");
+    StartOctave();
+    QTimer::singleShot(300, &frame, &QWidget::close);
+    Dispatch([&] { mnuEXEMatlab_Click(*Documents[2]); });
+    EXPECT_EQ(frmTextResults.txt.Text, "box1=system('sleep 20');\r\nStopped.\n");
+    EXPECT_EQ(linkReport.Sent, 1);
+    EXPECT_EQ(Boxes[1].BoxMark, "");
+    QElapsedTimer clock;
+    for (clock.start(); !screen.Ended && clock.elapsed() < 2000;) QApplication::processEvents();
+    EXPECT_TRUE(screen.Ended);
 }
 
 TEST_F(LinkTest, ExamplesGiveTheirNumbersBoxByBox) {

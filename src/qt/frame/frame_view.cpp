@@ -14,6 +14,7 @@
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QSplitter>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <cmath>
 #include <iterator>
@@ -22,6 +23,7 @@
 #include "diagram/box_table.h"
 #include "files/close_document.h"
 #include "files/document_file.h"
+#include "matlab_link/link.h"
 #include "matlab_link/run_report.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
@@ -385,8 +387,11 @@ void FrameView::dropEvent(QDropEvent* event) {
 }
 
 void FrameView::closeEvent(QCloseEvent* event) {
+    constexpr int soon = 100;
     event->ignore();
-    Dispatch([] { UnloadFrame(); });
+    if (!LinkIsBusy()) return Dispatch([] { UnloadFrame(); });
+    LeaveRun();
+    QTimer::singleShot(soon, this, &QWidget::close);
 }
 
 }  // namespace quorvane
