@@ -31,9 +31,9 @@ private:
     constexpr std::size_t SlotFor(std::string_view key) const {
         std::size_t place = key.size();
         if (!key.empty()) {
-            for (const char letter : {key.front(), key[key.size() / 2], key.back()}) {
-                place = place * 31 + static_cast<unsigned char>(letter);
-            }
+            place = place * 31 + static_cast<unsigned char>(key.front());
+            place = place * 31 + static_cast<unsigned char>(key[key.size() / 2]);
+            place = place * 31 + static_cast<unsigned char>(key.back());
         }
         place %= SlotCount;
         while (!slots_[place].Key.empty() && slots_[place].Key != key) {

@@ -18,19 +18,20 @@ constexpr std::size_t ShapesOfArrow = 3;
 /// Heads are drawn with this value, which is part of their shape.
 constexpr double Pi = 3.14;
 
-DrawnShape Line(const Pen& pen, double x1, double y1, double x2, double y2) {
-    DrawnShape line;
+void AddLine(std::vector<DrawnShape>& shapes, const Pen& pen, double x1, double y1, double x2,
+             double y2) {
+    auto& line = shapes.emplace_back();
     line.Color = pen.Color;
     line.Width = pen.Width;
     line.X1 = x1;
     line.Y1 = y1;
     line.X2 = x2;
     line.Y2 = y2;
-    return line;
 }
 
-DrawnShape Pie(const Pen& pen, double x, double y, double radius, double start, double end) {
-    DrawnShape pie;
+void AddPie(std::vector<DrawnShape>& shapes, const Pen& pen, double x, double y, double radius,
+            double start, double end) {
+    auto& pie = shapes.emplace_back();
     pie.Shape = DrawnShape::Kind::Pie;
     pie.Color = pen.Color;
     pie.Width = pen.Width;
@@ -39,23 +40,24 @@ DrawnShape Pie(const Pen& pen, double x, double y, double radius, double start, 
     pie.Radius = radius;
     pie.StartAngle = start;
     pie.EndAngle = end;
-    return pie;
 }
 
 /// Where an arrow to this entry meets the upper or lower edge: on a fifth of the width.
 double LandingPoint(const BoxControl& D, int entry) { return D.Left + entry * (D.Width / 5); }
 
-/// The head at the landing point x of destination D, by where source S stands.
-DrawnShape Head(const Pen& pen, const BoxControl& S, const BoxControl& D, double x) {
+/// Adds the head at the landing point x of destination D, by where source S stands.
+void AddHead(std::vector<DrawnShape>& shapes, const Pen& pen, const BoxControl& S,
+             const BoxControl& D, double x) {
     const double middle = S.Top + S.Height / 2;
-    if (S.Top < D.Top - D.Height / 2) return Pie(pen, x, D.Top - 10, 100, -0.95, -2.2);
-    if (S.Top >= D.Top + D.Height / 2) {
-        return Pie(pen, x, D.Top + D.Height + 10, 100, -0.95 - Pi, -2.2 - Pi);
+    if (S.Top < D.Top - D.Height / 2) {
+        AddPie(shapes, pen, x, D.Top - 10, 100, -0.95, -2.2);
+    } else if (S.Top >= D.Top + D.Height / 2) {
+        AddPie(shapes, pen, x, D.Top + D.Height + 10, 100, -0.95 - Pi, -2.2 - Pi);
+    } else if (S.Left < D.Left) {
+        AddPie(shapes, pen, D.Left, middle, 150, -0.3 - Pi * 0.85, -1.2 - Pi * 0.75);
+    } else {
+        AddPie(shapes, pen, D.Left + D.Width, middle, 100, -1.05 - 1.5 * Pi, -0.7);
     }
-    if (S.Left < D.Left) {
-        return Pie(pen, D.Left, middle, 150, -0.3 - Pi * 0.85, -1.2 - Pi * 0.75);
-    }
-    return Pie(pen, D.Left + D.Width, middle, 100, -1.05 - 1.5 * Pi, -0.7);
 }
 
 void AddArrow(std::vector<DrawnShape>& shapes, const Worksheet& window, int source, int destination,
@@ -80,14 +82,14 @@ void DrawLegs(std::vector<DrawnShape>& surface, const Pen& pen, const BoxControl
               const BoxControl& D, int entry) {
     const double x = LandingPoint(D, entry);
     const double y = S.Top + S.Height / 2;
-    surface.push_back(Line(pen, S.Left + entry * (S.Width / 5), y, x, S.Top + D.Height / 2));
-    surface.push_back(Line(pen, x, y, x, D.Top));
+    AddLine(surface, pen, S.Left + entry * (S.Width / 5), y, x, S.Top + D.Height / 2);
+    AddLine(surface, pen, x, y, x, D.Top);
 }
 
 void DrawLegsAndHead(std::vector<DrawnShape>& surface, const Pen& pen, const BoxControl& S,
                      const BoxControl& D, int entry) {
     DrawLegs(surface, pen, S, D, entry);
-    surface.push_back(Head(pen, S, D, LandingPoint(D, entry)));
+    AddHead(surface, pen, S, D, LandingPoint(D, entry));
 }
 
 int FindEntrySlot(int source, int destination) {

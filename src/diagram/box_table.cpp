@@ -11,23 +11,27 @@ std::int16_t EditMode = 0;
 std::int16_t ArrowSource = 0;
 
 namespace {
+
+using namespace std::string_view_literals;
+
 std::uint32_t lastId = 0;
+const Box freeRecord;
+
 }  // namespace
 
 const Box& BoxOrFree(int number) {
-    static const Box free;
-    return number >= 0 && number <= MaxBoxes ? Boxes[number] : free;
+    return number >= 0 && number <= MaxBoxes ? Boxes[number] : freeRecord;
 }
 
 std::string_view BoxIconKey(int number) {
     const Box& box = Boxes[number];
     const std::string_view type = box.BoxType, text = box.BoxText;
-    if (text == "Subroutine") return text;
-    if (type == "Plot Output") {
+    if (text == "Subroutine"sv) return text;
+    if (type == "Plot Output"sv) {
         const auto end = text.find(';');
         return end == std::string_view::npos ? std::string_view() : text.substr(0, end);
     }
-    if (type == "Matrix Manipulation" && text.starts_with("Diag")) return "Diag";
+    if (type == "Matrix Manipulation"sv && text.starts_with("Diag")) return "Diag";
     return type;
 }
 
@@ -38,10 +42,14 @@ std::string BoxName(int number) {
 }
 
 void FreeRecord(Box& box) {
-    Box free;
-    free.BoxLeft = box.BoxLeft;
-    free.BoxTop = box.BoxTop;
-    box = std::move(free);
+    box.BoxType.clear();
+    box.BoxMark.clear();
+    box.BoxText.clear();
+    box.BoxDocument = 0;
+    box.BoxIn.Fill(0);
+    box.BoxOut.Fill(0);
+    box.BoxLineColor.Fill(0);
+    box.Id = 0;
 }
 
 void GiveBoxIds() {

@@ -30,12 +30,6 @@ FrameWindow::FrameWindow() {
     for (auto& entry : mnuFileArray) entry.Visible = false;
 }
 
-Worksheet& DocumentWindow(int document) {
-    auto& window = Documents[document];
-    if (!window) throw RuntimeError(91);
-    return *window;
-}
-
 std::int16_t DocumentNumber(const Worksheet& sheet) { return TextToInt16(sheet.Tag); }
 
 void MarkModified(const Worksheet& sheet) { DocumentStates[DocumentNumber(sheet)].Modified = -1; }

@@ -125,7 +125,11 @@ extern std::int16_t CurrentDocument;
 extern FrameWindow frmMDI;
 
 /// The window of a document; error 9 for a number beyond the table, 91 when it has no window.
-Worksheet& DocumentWindow(int document);
+inline Worksheet& DocumentWindow(int document) {
+    auto& window = Documents[document];
+    if (!window) Raise(91);
+    return *window;
+}
 
 /// The number of a worksheet's document; error 13 for the template.
 std::int16_t DocumentNumber(const Worksheet& sheet);

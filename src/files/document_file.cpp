@@ -55,6 +55,16 @@ struct Fields {
         Rest.remove_prefix(std::min(field.size() + 1, Rest.size()));
         return field;
     }
+    /// Passes over the next field and takes its value if it is a whole number of at most so many
+    /// digits.
+    bool TakeWholeNumber(std::size_t mostDigits, std::int32_t& value) {
+        std::int32_t number = 0;
+        const auto read = ReadWholeNumber(Rest, mostDigits, number);
+        if (read == 0 || (read < Rest.size() && Rest[read] != '~')) return false;
+        value = number;
+        Rest.remove_prefix(std::min(read + 1, Rest.size()));
+        return true;
+    }
 };
 
 /// The next line of the file, empty when it can't be read.
@@ -80,12 +90,26 @@ std::int16_t ReadBoxCount(Load& load) {
     return count;
 }
 
-void ReadSlot(Load& load, Fields& fields, std::int16_t& slot, std::int16_t base) {
+/// Nearly all fields are short whole numbers, with which nothing can fail.
+void ReadNumber(Load& load, Fields& fields, std::int32_t& number) {
+    if (fields.TakeWholeNumber(9, number)) return;
     const auto field = fields.Next();
-    load.Do([&] {
-        const auto number = TextToInt16(field);
-        slot = number > 0 ? ToInt16(number + base - 1) : number;
-    });
+    load.Do([&] { number = TextToInt32(field); });
+}
+
+/// A number of a box in the file as its number in the table.
+std::int16_t Shifted(int number, int base) {
+    return ToInt16(number > 0 ? number + base - 1 : number);
+}
+
+void ReadSlot(Load& load, Fields& fields, std::int16_t& slot, std::int16_t base) {
+    std::int32_t number = 0;
+    if (fields.TakeWholeNumber(4, number)) {
+        slot = Shifted(number, base);
+        return;
+    }
+    const auto field = fields.Next();
+    load.Do([&] { slot = Shifted(TextToInt16(field), base); });
 }
 
 void ReadTypeAndText(Load& load, Box& box) {
@@ -100,8 +124,7 @@ void ReadSlots(Load& load, Box& box, std::int16_t base) {
     for (auto& entry : box.BoxIn) ReadSlot(load, fields, entry, base);
     for (int j = 1; j <= 5; ++j) {
         ReadSlot(load, fields, box.BoxOut[j], base);
-        const auto color = fields.Next();
-        load.Do([&] { box.BoxLineColor[j] = TextToInt32(color); });
+        ReadNumber(load, fields, box.BoxLineColor[j]);
     }
 }
 
@@ -109,10 +132,8 @@ void PlaceBox(Load& load, Box& box, std::int16_t number) {
     auto fields = NextLine(load);
     load.Do([&] { DocumentWindow(load.Document).box.Load(number); });
     box.BoxDocument = load.Document;
-    const auto top = fields.Next();
-    const auto left = fields.Next();
-    load.Do([&] { box.BoxTop = TextToInt32(top); });
-    load.Do([&] { box.BoxLeft = TextToInt32(left); });
+    ReadNumber(load, fields, box.BoxTop);
+    ReadNumber(load, fields, box.BoxLeft);
     load.Do([&] {
         auto& window = DocumentWindow(load.Document);
         auto& control = window.box[number];

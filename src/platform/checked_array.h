@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "platform/runtime_error.h"
@@ -29,7 +30,7 @@ public:
 
 private:
     static std::size_t Offset(int index) {
-        if (index < Low || index > High) throw RuntimeError(9);
+        if (index < Low || index > High) Raise(9);
         return static_cast<std::size_t>(index - Low);
     }
 
@@ -45,7 +46,7 @@ public:
     int UpperBound() const { return static_cast<int>(elements_.size()) - 1; }
     /// Sets a new upper bound, 0 or more, and keeps what lies below it. Error 9 for a negative one.
     void Resize(int upperBound) {
-        if (upperBound < 0) throw RuntimeError(9);
+        if (upperBound < 0) Raise(9);
         elements_.resize(static_cast<std::size_t>(upperBound) + 1);
     }
     void Append(T value) { elements_.push_back(std::move(value)); }
@@ -57,7 +58,7 @@ public:
 
 private:
     std::size_t Offset(int index) const {
-        if (index < 0 || index > UpperBound()) throw RuntimeError(9);
+        if (index < 0 || index > UpperBound()) Raise(9);
         return static_cast<std::size_t>(index);
     }
 
@@ -65,39 +66,51 @@ private:
 };
 
 /// The elements of a control array, which are loaded and unloaded one by one. Reading or unloading
-/// an element that is not there raises error 340, loading one that is there error 360.
+/// an element that is not there raises error 340, loading one that is there error 360. An element
+/// keeps its place in memory until it is unloaded.
 template <class Control>
 class ControlArray {
 public:
-    bool Has(int index) const {
-        return index >= 0 && index < Size() && elements_[static_cast<std::size_t>(index)];
-    }
+    bool Has(int index) const { return index >= 0 && index < Size() && Element(index).has_value(); }
     Control& Load(int index) {
-        if (index < 0) throw RuntimeError(340);
-        if (Has(index)) throw RuntimeError(360);
-        if (index >= Size()) elements_.resize(static_cast<std::size_t>(index) + 1);
-        auto& element = elements_[static_cast<std::size_t>(index)];
-        element = std::make_unique<Control>();
-        return *element;
+        if (index < 0) Raise(340);
+        if (Has(index)) Raise(360);
+        while (index >= BlockSize * static_cast<int>(blocks_.size())) {
+            blocks_.push_back(std::make_unique<Block>());
+        }
+        if (index >= size_) size_ = index + 1;
+        return Element(index).emplace();
     }
     void Unload(int index) {
-        if (!Has(index)) throw RuntimeError(340);
-        elements_[static_cast<std::size_t>(index)].reset();
+        if (!Has(index)) Raise(340);
+        Element(index).reset();
     }
     Control& operator[](int index) {
-        if (!Has(index)) throw RuntimeError(340);
-        return *elements_[static_cast<std::size_t>(index)];
+        if (!Has(index)) Raise(340);
+        return *Element(index);
     }
     const Control& operator[](int index) const {
-        if (!Has(index)) throw RuntimeError(340);
-        return *elements_[static_cast<std::size_t>(index)];
+        if (!Has(index)) Raise(340);
+        return *Element(index);
     }
     /// One more than the highest index that was ever loaded.
-    int Size() const { return static_cast<int>(elements_.size()); }
-    void Clear() { elements_.clear(); }
+    int Size() const { return size_; }
+    void Clear() {
+        blocks_.clear();
+        size_ = 0;
+    }
 
 private:
-    std::vector<std::unique_ptr<Control>> elements_;
+    static constexpr int BlockSize = 16;
+    using Block = std::array<std::optional<Control>, BlockSize>;
+
+    std::optional<Control>& Element(int index) const {
+        const auto at = static_cast<std::size_t>(index);
+        return (*blocks_[at / BlockSize])[at % BlockSize];
+    }
+
+    std::vector<std::unique_ptr<Block>> blocks_;
+    int size_ = 0;
 };
 
 }  // namespace quorvane

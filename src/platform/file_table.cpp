@@ -4,10 +4,10 @@
 #include <array>
 #include <cerrno>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <memory>
 #include <random>
-#include <vector>
 
 #include "platform/numbers.h"
 #include "platform/paths.h"
@@ -38,7 +38,7 @@ using Stream = std::unique_ptr<std::FILE, StreamCloser>;
 
 struct OpenFile {
     Stream Source;  ///< None for a text, which is in the buffer as a whole
-    std::vector<char> Buffer;
+    std::unique_ptr<char[]> Buffer;
     std::size_t Next = 0;  ///< The first byte of Buffer that is not read yet
     std::size_t Filled = 0;
     bool EndedAtComma = false;  ///< The last read
@@ -48,13 +48,13 @@ std::array<std::unique_ptr<OpenFile>, HighestNumber + 1> openFiles;
 std::string currentLine;
 
 std::unique_ptr<OpenFile>& Element(int number) {
-    if (number < 1 || number > HighestNumber) throw RuntimeError(52);
+    if (number < 1 || number > HighestNumber) Raise(52);
     return openFiles[static_cast<std::size_t>(number)];
 }
 
 OpenFile& Opened(int number) {
     auto& file = Element(number);
-    if (!file) throw RuntimeError(52);
+    if (!file) Raise(52);
     return *file;
 }
 
@@ -74,17 +74,20 @@ fs::path Resolved(const std::string& path) {
     return error ? resolved : canonical;
 }
 
-/// Reads on; false at the end of the file.
-bool Fill(OpenFile& file) {
-    if (file.Next < file.Filled) return true;
+/// Fills the buffer anew; false at the end of the file.
+bool ReadOn(OpenFile& file) {
     if (!file.Source) return false;
-    constexpr std::size_t blockSize = 16384;
-    file.Buffer.resize(blockSize);
+    // Most diagrams are read at once.
+    constexpr std::size_t blockSize = 65536;
+    if (!file.Buffer) file.Buffer = std::make_unique_for_overwrite<char[]>(blockSize);
     file.Next = 0;
-    file.Filled = std::fread(file.Buffer.data(), 1, file.Buffer.size(), file.Source.get());
+    file.Filled = std::fread(file.Buffer.get(), 1, blockSize, file.Source.get());
     if (file.Filled == 0 && std::ferror(file.Source.get())) throw RuntimeError(57);
     return file.Filled > 0;
 }
+
+/// True when there is a byte to read, which is then in the buffer.
+inline bool HasMore(OpenFile& file) { return file.Next < file.Filled || ReadOn(file); }
 
 // What the standard library doesn't have on both systems: a file that must not be there yet, opened
 // for writing, and the wait for the disk.
@@ -177,44 +180,64 @@ void OpenText(int number, std::string_view text) {
     auto& element = Element(number);
     if (element) throw RuntimeError(55);
     element = std::make_unique<OpenFile>();
-    element->Buffer.assign(text.begin(), text.end());
+    element->Buffer = std::make_unique_for_overwrite<char[]>(text.size());
+    text.copy(element->Buffer.get(), text.size());
     element->Filled = text.size();
 }
 
-bool EndOfFile(int number) { return !Fill(Opened(number)); }
+bool EndOfFile(int number) { return !HasMore(Opened(number)); }
 
 namespace {
 
-/// What is in the buffer up to the end of a line or, for a field, to a comma.
-std::string_view PartInBuffer(const OpenFile& file, bool isField) {
-    std::string_view part(file.Buffer.data() + file.Next, file.Filled - file.Next);
-    part = part.substr(0, part.find('\n'));
-    part = part.substr(0, part.find('\r'));
-    return isField ? part.substr(0, part.find(',')) : part;
+/// The first `mark` between the two, or `end`.
+const char* Find(const char* begin, const char* end, char mark) {
+    const auto* at = std::memchr(begin, mark, static_cast<std::size_t>(end - begin));
+    return at ? static_cast<const char*>(at) : end;
 }
 
-/// Reads up to and including the end of a line or field; CR LF counts as one. What lies in the
-/// buffer as a whole isn't copied.
-std::string_view ReadUpTo(int number, bool isField) {
-    auto& file = Opened(number);
-    if (!Fill(file)) throw RuntimeError(62);
+/// What is in the buffer up to the end of a line or, for a field, to a comma.
+std::string_view PartInBuffer(const OpenFile& file, bool isField) {
+    const char* const begin = file.Buffer.get() + file.Next;
+    const char* end = Find(begin, file.Buffer.get() + file.Filled, '\n');
+    end = Find(begin, end, '\r');
+    if (isField) end = Find(begin, end, ',');
+    return {begin, static_cast<std::size_t>(end - begin)};
+}
+
+/// Steps over the end of a line or field; CR LF counts as one.
+void SkipEnd(OpenFile& file) {
+    const char ended = file.Buffer[file.Next++];
+    file.EndedAtComma = ended == ',';
+    if (ended == '\r' && HasMore(file) && file.Buffer[file.Next] == '\n') ++file.Next;
+}
+
+/// Reads a line or field that the buffer doesn't hold as a whole.
+std::string_view ReadInPieces(OpenFile& file, bool isField) {
     currentLine.clear();
     file.EndedAtComma = false;
-    while (Fill(file)) {
+    while (HasMore(file)) {
         const auto part = PartInBuffer(file, isField);
         if (currentLine.size() + part.size() > MaxLineLength) throw RuntimeError(14);
+        currentLine += part;
         file.Next += part.size();
-        const auto left = file.Filled - file.Next;
-        const bool isWhole = left > 1 && currentLine.empty();
-        if (!isWhole) currentLine += part;
-        if (left == 0) continue;
-        const char ended = file.Buffer[file.Next++];
-        file.EndedAtComma = ended == ',';
-        if (ended == '\r' && Fill(file) && file.Buffer[file.Next] == '\n') ++file.Next;
-        if (isWhole) return part;
+        if (file.Next == file.Filled) continue;
+        SkipEnd(file);
         break;
     }
     return currentLine;
+}
+
+/// Reads up to and including the end of a line or field. What lies in the buffer as a whole, with a
+/// byte behind its end, isn't copied.
+std::string_view ReadUpTo(int number, bool isField) {
+    auto& file = Opened(number);
+    if (!HasMore(file)) throw RuntimeError(62);
+    const auto part = PartInBuffer(file, isField);
+    const bool isWhole = file.Filled - file.Next > part.size() + 1;
+    if (!isWhole || part.size() > MaxLineLength) return ReadInPieces(file, isField);
+    file.Next += part.size();
+    SkipEnd(file);
+    return part;
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <cctype>
+#include <charconv>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -58,17 +59,9 @@ Integer Rounded(double value) {
 /// A diagram is made of short whole numbers: those are read digit by digit.
 template <class Integer>
 Integer TextToInteger(std::string_view text) {
-    const bool isNegative = text.starts_with('-');
-    const auto digits = text.substr(isNegative ? 1 : 0);
-    int value = 0;
-    std::size_t read = 0;
-    while (read < digits.size() && read < std::numeric_limits<Integer>::digits10 &&
-           digits[read] >= '0' && digits[read] <= '9') {
-        value = value * 10 + (digits[read++] - '0');
-    }
-    if (read > 0 && read == digits.size()) {
-        return static_cast<Integer>(isNegative ? -value : value);
-    }
+    std::int32_t value = 0;
+    const auto read = ReadWholeNumber(text, std::numeric_limits<Integer>::digits10, value);
+    if (read > 0 && read == text.size()) return static_cast<Integer>(value);
     return Rounded<Integer>(TextToNumber(text));
 }
 
@@ -107,16 +100,8 @@ std::int32_t TextToInt32(std::string_view text) { return TextToInteger<std::int3
 
 void AppendNumber(std::string& text, std::int64_t number) {
     char digits[24];
-    char* const end = digits + sizeof digits;
-    char* at = end;
-    auto rest =
-        number < 0 ? 0 - static_cast<std::uint64_t>(number) : static_cast<std::uint64_t>(number);
-    do {
-        *--at = static_cast<char>('0' + rest % 10);
-        rest /= 10;
-    } while (rest > 0);
-    if (number < 0) *--at = '-';
-    text.append(at, static_cast<std::size_t>(end - at));
+    const auto* const end = std::to_chars(digits, digits + sizeof digits, number).ptr;
+    text.append(digits, static_cast<std::size_t>(end - digits));
 }
 
 std::string NumberText(std::int64_t number) {
@@ -133,9 +118,7 @@ bool BeginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC
 
 std::string LowerCase(std::string_view text) {
     std::string lower(text);
-    for (char& c : lower) {
-        if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-    }
+    for (char& c : lower) c = ToLower(c);
     return lower;
 }
 

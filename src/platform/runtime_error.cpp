@@ -37,4 +37,6 @@ RuntimeError::RuntimeError(int number) : Number(number), Description(RuntimeErro
 RuntimeError::RuntimeError(int number, std::string description)
     : Number(number), Description(std::move(description)) {}
 
+void Raise(int number) { throw RuntimeError(number); }
+
 }  // namespace quorvane

@@ -20,6 +20,10 @@ struct RuntimeError : std::exception {
     std::string Description;
 };
 
+/// Throws a RuntimeError. The arrays' own checks call it, and stay so short that they cost next to
+/// nothing.
+[[noreturn]] void Raise(int number);
+
 /// The usual wording for a number; "Application-defined or object-defined error" for an unknown
 /// one.
 const char* RuntimeErrorText(int number);
