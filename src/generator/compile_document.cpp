@@ -35,7 +35,8 @@ bool IsSource(const Box& box) {
     return box.BoxType.ends_with("Input") && AllEntriesAre(box, LockedSlot);
 }
 
-bool StartsUnwired(const Box& box) { return frmPrefs.chkInput.Value == 1 && AllEntriesAre(box, 0); }
+bool IsUnwired(const Box& box) { return AllEntriesAre(box, 0); }
+bool UnwiredStart() { return frmPrefs.chkInput.Value == 1; }
 
 /// The sources come first.
 void AddStartBoxes(const Run& run) {
@@ -45,7 +46,7 @@ void AddStartBoxes(const Run& run) {
         }
     };
     add(IsSource);
-    add(StartsUnwired);
+    if (UnwiredStart()) add(IsUnwired);
 }
 
 /// Only slots 1 to 5 decide whether there is anything to start with.
@@ -148,9 +149,8 @@ bool VisitSlot(Run& run, int slot) {
 void RefuseLostFront() {
     const auto* slots = Front.Data();
     const auto* end = slots + frontWidth + 1;
-    const bool lost = std::any_of(slots + 1, end, [](auto box) { return box < 0; }) &&
-                      std::none_of(slots + 1, end, [](auto box) { return box > 0; });
-    if (lost) throw RuntimeError(9);
+    if (std::any_of(slots + 1, end, [](auto box) { return box > 0; })) return;
+    if (std::any_of(slots + 1, end, [](auto box) { return box < 0; })) throw RuntimeError(9);
 }
 
 /// Walks the front until it is empty. False when the run was aborted.
@@ -179,7 +179,7 @@ RunEnd Finish(RunEnd end) {
 
 }  // namespace
 
-bool StartsRun(const Box& box) { return IsSource(box) || StartsUnwired(box); }
+bool StartsRun(const Box& box) { return IsSource(box) || (UnwiredStart() && IsUnwired(box)); }
 
 RunEnd WalkDocument(Run& run) {
     ClearFront();

@@ -7,6 +7,7 @@
 #include "catalogue/key_table.h"
 #include "generator/box_writers.h"
 #include "generator/control_flow.h"
+#include "generator/line.h"
 #include "platform/numbers.h"
 
 namespace quorvane {
@@ -147,25 +148,24 @@ bool Contains(const std::vector<std::string_view>& names, std::string_view name)
     return std::find(names.begin(), names.end(), name) != names.end();
 }
 
-/// Appends what a hole stands for.
-void FillHole(std::string& script, const RowText::Part& part, int number) {
-    const Box& box = Boxes[number];
+/// Adds what a hole stands for.
+void FillHole(Line& line, const RowText::Part& part, const Box& box, int number) {
     switch (part.Behind) {
-        case Hole::Number: return AppendNumber(script, number);
-        case Hole::Entry: return AppendNumber(script, box.BoxIn[part.Entry]);
-        case Hole::Value: script += box.BoxText; break;
-        case Hole::Type: script += box.BoxType; break;
-        case Hole::LowerValue: script += LowerCase(box.BoxText); break;
-        case Hole::LowerType: script += LowerCase(box.BoxType); break;
+        case Hole::Number: return line.AddNumber(number);
+        case Hole::Entry: return line.AddNumber(box.BoxIn[part.Entry]);
+        case Hole::Value: return line.AddText(box.BoxText);
+        case Hole::Type: return line.AddText(box.BoxType);
+        case Hole::LowerValue: return line.AddLowerCase(box.BoxText);
+        case Hole::LowerType: return line.AddLowerCase(box.BoxType);
         case Hole::None: break;
     }
 }
 
-/// Appends a text of a row with its holes filled.
-void Fill(Run& run, const RowText& text, int number) {
+/// Adds a text of a row with its holes filled.
+void Fill(Line& line, const RowText& text, const Box& box, int number) {
     for (const auto& part : text.Parts()) {
-        run.scriptText += part.Literal;
-        FillHole(run.scriptText, part, number);
+        line.AddLiteral(part);
+        FillHole(line, part, box, number);
     }
 }
 
@@ -176,13 +176,17 @@ bool Applies(const Piece& piece, const Box& box) {
     return IsFor(piece, box);
 }
 
-void WriteTexts(Run& run, const EmissionRow& row, int box) {
-    Fill(run, row.Head, box);
+void WriteTexts(Run& run, const EmissionRow& row, int number) {
+    static constexpr RowText lineEnd = "\r\n";
+    const Box& box = Boxes[number];
+    Line line(run.scriptText);
+    Fill(line, row.Head, box, number);
     for (const auto& piece : row.Pieces) {
-        if (Applies(piece, Boxes[box])) Fill(run, piece.Text, box);
+        if (Applies(piece, box)) Fill(line, piece.Text, box, number);
     }
-    Fill(run, row.Close, box);
-    run.scriptText += "\r\n";
+    Fill(line, row.Close, box, number);
+    Fill(line, lineEnd, box, number);
+    line.Flush();
 }
 
 /// A row for each command whose type writes a single plain line.
@@ -210,8 +214,8 @@ bool IsFor(const Piece& piece, const Box& box) {
 const EmissionRow* FindEmissionRow(std::string_view type) {
     // The rows that list their types are looked up; those that can't list them stand at the end of
     // the chain and are asked in turn.
-    static const auto plainRows = PlainRows();
     static const auto byKey = [] {
+        static const auto plainRows = PlainRows();
         KeyTable<const EmissionRow*> rows;
         for (const auto& row : plainRows) rows.Add(row.Keys.front(), &row);
         for (const auto& row : emissionChain) {
@@ -235,7 +239,7 @@ void EmitBox(Run& run, int box, int slot) {
     } else {
         WriteTexts(run, *row, box);
     }
-    Boxes[box].BoxMark.assign("OK", 2);
+    MarkDone(Boxes[box]);
 }
 
 }  // namespace quorvane

@@ -73,7 +73,7 @@ bool InputsReady(std::string& scriptText, int box) {
         Box& source = Boxes[feeder];
         if (source.BoxType == "Pickup"sv) {
             scriptText += BoxName(feeder) + "=" + source.BoxText + ";\r\n";
-            source.BoxMark = "OK";
+            MarkDone(source);
         }
         if (!IsDone(source)) return false;
     }

@@ -93,7 +93,7 @@ std::string LineOfOption(const OptionList& list, const ListOption& option) {
     std::int16_t number = 1;
     for (const char entry : WiredEntries(box)) {
         Boxes[number] = {};
-        Boxes[number].BoxMark = "OK";
+        MarkDone(Boxes[number]);
         box.BoxIn[entry - '0'] = number++;
     }
     Boxes[number] = box;

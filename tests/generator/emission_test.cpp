@@ -66,6 +66,8 @@ TEST_F(EmissionTest, EveryKeyWritesItsTextOnceItsFeedersAreDone) {
     }
 }
 
+static_assert(RowText("a literal of several parts{id}").Parts()[1].Behind == Hole::Number);
+
 TEST_F(EmissionTest, TheChainHoldsEachKeyOnce) {
     std::set<std::string> expected = {"Keyboard Input", "For", "While", "Next",
                                       "End Subroutine", "If",  "End If"};
