@@ -82,6 +82,7 @@ void Say(const std::string& text) {
 std::string BarState(int document, bool withFindings) {
     if (auto waiting = Waiting(); !waiting.empty()) return waiting;
     if (Stands(notice)) return notice.Text;
+    if (!frmMDI.txtEvent.empty()) return frmMDI.txtEvent + ": move to a worksheet to place it";
     switch (EditMode) {
         case 2: return "box " + NumberText(NextBox - 1) + " armed: click to place it";
         case 3: return "arrow: click the box that it comes from";

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <deque>
+#include <utility>
 
 #include "diagram/box_table.h"
 #include "diagram/worksheet.h"
@@ -72,6 +73,7 @@ void NoteStep() {
 }
 
 std::string UndoName() {
+    if (!frmMDI.txtEvent.empty()) return "give up the box";
     switch (EditMode) {
         case 2: return "give up the box";
         case 3:
@@ -97,7 +99,8 @@ void Redo() {
 }
 
 bool GiveUp() {
-    if (EditMode < 2 || EditMode > 6) return false;
+    const bool hasTool = !std::exchange(frmMDI.txtEvent, "").empty();
+    if (EditMode < 2 || EditMode > 6) return hasTool;
     if (EditMode == 2) {
         RestoreSnapshot(Present(), Present());
     } else {

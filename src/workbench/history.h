@@ -27,7 +27,8 @@ std::string RedoName();
 void Undo();
 void Redo();
 
-/// Gives up an armed box, a pending arrow, a waiting move or copy; false when nothing is pending.
+/// Gives up the toolbox's button that no worksheet has taken yet, and an armed box, a pending
+/// arrow, a waiting move or copy; false when nothing is pending.
 bool GiveUp();
 
 /// Grows with each step that is noted, taken back or made anew.

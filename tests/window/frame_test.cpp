@@ -144,6 +144,8 @@ TEST_F(FrameWindows, TheToolboxKeepsItsPlaceByTheFrame) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::focusWidget() == Surface(); }));
         EXPECT_EQ(frmMDI.txtEvent, sent);
     }
+    Type(Qt::Key_Escape);
+    EXPECT_EQ(frmMDI.txtEvent, "") << "given up";
 }
 
 TEST_F(FrameWindows, TheTourTakesElevenClicks) {

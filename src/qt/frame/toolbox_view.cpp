@@ -112,12 +112,12 @@ void ToolboxView::RefreshButtons() {
         button->setToolTip(ToolTip(key));
         button->setAccessibleName(key);
         const int side = qMin(button->width(), button->height()) - 4;
-        const QSize face(side, side);
-        if (button->property("picture") != record.Picture || button->iconSize() != face) {
-            button->setProperty("picture", record.Picture);
-            button->setIconSize(face);
-            button->setIcon(CellOnPaper(record.Picture, side, devicePixelRatioF()));
-        }
+        const auto ratio = devicePixelRatioF();
+        const auto face = QString("%1 %2 %3").arg(record.Picture).arg(side).arg(ratio);
+        if (button->property("shown") == face) continue;
+        button->setProperty("shown", face);
+        button->setIconSize(QSize(side, side));
+        button->setIcon(CellOnPaper(record.Picture, side, ratio));
     }
 }
 
