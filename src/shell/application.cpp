@@ -99,7 +99,7 @@ void ResetApplication() {
     ResetLink();
     ResetReport();
     ResetShownReports();
-    matlabLink = {LinkOpen,   LinkExecute, LinkRequest, LinkFinish, mnuFileStartMatlab_Click,
+    matlabLink = {LinkOpen,    LinkExecute, LinkRequest, LinkFinish, mnuFileStartMatlab_Click,
                   BeginReport, RunIsLeft};
     ProgramDirectory.clear();
     HelpFile = Manual;
