@@ -24,6 +24,18 @@ void SetFrameWidth() {
     for (int i = 0; i <= FrameStack.UpperBound(); ++i) FrameStack[i].Resize(frontWidth);
 }
 
+/// The first of these slots that holds the box, or `end`. A front of hundreds of slots is searched
+/// for each arrow; the compiler compares the slots of a block together.
+std::int16_t* FindSlot(std::int16_t* at, std::int16_t* end, std::int16_t box) {
+    constexpr int block = 16;
+    for (; end - at >= block; at += block) {
+        std::int16_t found = 0;  // as wide as a slot, or they are compared one by one
+        for (int k = 0; k < block; ++k) found |= static_cast<std::int16_t>(at[k] == box);
+        if (found != 0) break;
+    }
+    return std::find(at, end, box);
+}
+
 /// One frame for each open block. It is not made smaller when the last block closes: the next push
 /// finds the old frame there, and a spared slot keeps what it held.
 void SetFrameCount() {
@@ -49,8 +61,8 @@ void AddToFront(std::int16_t box) {
     if (box < 0) return;
     auto* slots = Front.Data();
     auto* end = slots + frontWidth + 1;
-    if (std::find(slots + 1, end, box) != end) return;
-    auto* empty = std::find(slots + 1, end, 0);
+    if (FindSlot(slots + 1, end, box) != end) return;
+    auto* empty = FindSlot(slots + 1, end, 0);
     if (empty != end) {
         *empty = box;
         return;
