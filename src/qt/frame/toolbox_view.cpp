@@ -8,6 +8,7 @@
 #include <QScreen>
 #include <QToolButton>
 #include <algorithm>
+#include <utility>
 
 #include "catalogue/box_commands.h"
 #include "qt/desktop/dispatch.h"
@@ -71,6 +72,7 @@ void ToolboxView::Refresh() {
     const bool shows = form.Form.Visible && frame_.isVisible();
     if (shows && (!isVisible() || (grows && !isResized_))) FollowFrame();
     if (isVisible() == shows) return;
+    appears_ = shows;
     setVisible(shows);
     settled_->start();
 }
@@ -84,10 +86,11 @@ void ToolboxView::FollowFrame() {
     if (pos() != corner_) move(corner_);
 }
 
-/// Where it stands now is the user's choice, unless it was moved there.
+/// Where it stands now is the user's choice, unless it was moved there, or the window manager has
+/// put its frame around it.
 void ToolboxView::TakePlace() {
     if (!isVisible() || !CanPlaceWindows()) return;
-    if (pos() == corner_) return FollowFrame();
+    if (std::exchange(appears_, false) || pos() == corner_) return FollowFrame();
     place_ = PlaceInFrame(frame_, pos(), frameGeometry().size());
     WriteToolboxPlace(*place_);
     FollowFrame();

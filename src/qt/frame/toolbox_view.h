@@ -42,6 +42,7 @@ private:
     std::vector<QToolButton*> buttons_;  ///< By their index; nullptr where there is none
     bool following_ = false;             ///< The size comes from the record, not from the user
     bool isResized_ = false;             ///< The record's size comes from the user
+    bool appears_ = false;               ///< Shown, and not yet in its place
     std::optional<ToolboxPlace> place_;  ///< Where the user put it
     QPoint corner_;                      ///< Where it was moved to last, not by the user
     QTimer* settled_;                    ///< Runs while it is being moved
