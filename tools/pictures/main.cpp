@@ -12,6 +12,7 @@
 #include <QStandardPaths>
 #include <QStyle>
 #include <QStyleFactory>
+#include <algorithm>
 #include <cstdio>
 
 #include "photo.h"
@@ -117,14 +118,22 @@ private:
     bool isThere_ = false;
 };
 
-/// Below the root of the sources.
-void MakePictures(std::span<const Picture> pictures) {
-    const EngineScreen screen;
-    if (screen.IsThere()) stage.Octave = QStandardPaths::findExecutable("octave-cli");
-    if (stage.Octave.isEmpty()) {
-        std::printf("Without octave-cli and Xvfb the pictures with a run stay as they are\n");
-    }
-    PlayPictures(pictures, [](const Picture& picture) {
+/// Sets of pictures, which lie below the root of the sources.
+struct SetRow {
+    const char *Name, *Scale;
+    std::span<const Picture> (*Pictures)();
+};
+constexpr SetRow sets[] = {
+    {"story", "1", StoryPictures}, {"manual", "1", ManualPictures}, {"covers", "2", CoverPictures}};
+
+const SetRow* FindSet(const QString& name) {
+    const auto* found = std::find_if(std::begin(sets), std::end(sets),
+                                     [&](const SetRow& row) { return row.Name == name; });
+    return found == std::end(sets) ? nullptr : found;
+}
+
+void MakePictures(const SetRow& set) {
+    PlayPictures(set.Pictures(), [](const Picture& picture) {
         const auto photo = PhotoOf(QString(picture.Windows).split(' '));
         Save(photo, stage.Sources + "/" + picture.Name);
         std::printf("%s\n", picture.Name);
@@ -143,7 +152,7 @@ void MakeContactSheet(const QString& folder, const QString& palette, const char*
 
 int Usage() {
     std::fprintf(stderr,
-                 "Usage: quorvane_pictures SOURCES story|covers\n"
+                 "Usage: quorvane_pictures SOURCES story|manual|covers\n"
                  "       quorvane_pictures SOURCES sheet FOLDER light|dark SCALE\n");
     return 2;
 }
@@ -156,8 +165,8 @@ int main(int argc, char** argv) {
     using namespace quorvane;
     const QString what = argc > 2 ? argv[2] : "";
     const bool isSheet = what == "sheet" && argc == 6;
-    const bool isStory = what == "story" && argc == 3;
-    if (!isSheet && !isStory && !(what == "covers" && argc == 3)) return Usage();
+    const auto* set = argc == 3 ? FindSet(what) : nullptr;
+    if (!isSheet && !set) return Usage();
     stage.Sources = QDir(argv[1]).absolutePath();
     QLockFile lock("/tmp/quorvane-pictures.lock");
     const bool isAlone = lock.tryLock(0) && QDir(stage.Home).removeRecursively();
@@ -166,7 +175,7 @@ int main(int argc, char** argv) {
         return 1;
     }
     const auto folder = isSheet ? QDir(argv[3]).absolutePath() : QString();
-    SetEnvironment(stage.Home, isSheet ? argv[5] : isStory ? "1" : "2");
+    SetEnvironment(stage.Home, isSheet ? argv[5] : set->Scale);
     // The off-screen platform complains of all that it can't do.
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
     QApplication application(argc, argv);
@@ -174,10 +183,15 @@ int main(int argc, char** argv) {
     QApplication::setOrganizationName("Quorvane");
     QApplication::setWindowIcon(QIcon(":/quorvane.svg"));
     SetLooks(isSheet && QString(argv[4]) == "dark");
+    const EngineScreen screen;
+    if (screen.IsThere()) stage.Octave = QStandardPaths::findExecutable("octave-cli");
+    if (stage.Octave.isEmpty()) {
+        std::printf("Without octave-cli and Xvfb the pictures with a run are left out\n");
+    }
     if (isSheet) {
         MakeContactSheet(folder, argv[4], argv[5]);
     } else {
-        MakePictures(isStory ? StoryPictures() : CoverPictures());
+        MakePictures(*set);
     }
     QDir(stage.Home).removeRecursively();
     return 0;

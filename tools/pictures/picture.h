@@ -25,6 +25,7 @@ struct Picture {
 /// The first hour and the manual's windows, at their own size; and the pictures that stand alone,
 /// at double scale.
 std::span<const Picture> StoryPictures();
+std::span<const Picture> ManualPictures();
 std::span<const Picture> CoverPictures();
 /// Every window of the program.
 std::span<const Picture> AllWindows();

@@ -27,8 +27,10 @@
 #include <cstdlib>
 #include <map>
 #include <memory>
+#include <utility>
 
 #include "matlab_link/link.h"
+#include "matlab_link/mfile_index.h"
 #include "photo.h"
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/qt_desktop.h"
@@ -52,16 +54,21 @@ constexpr int LongestWait = 30000;
 struct PictureDesktop : QtDesktop {
     int Seconds = 0;
     int ClockSeconds() override { return Seconds += 3; }
+    void PaintNow() override;
 };
 
 /// The steps that are left. A picture's own are between its name and "keep".
 QStringList steps;
-QString pictureName, step;
+QString step;
 std::span<const Picture> all;
 std::function<void(const Picture&)> keep;
 bool isBusy = false;  ///< A step is at work that no other may interrupt
 QElapsedTimer waiting;
 std::unique_ptr<FrameView> frame;
+std::size_t atWork = 0;  ///< The picture, of all
+/// A window that comes and goes by itself is kept when the program paints it.
+QString passing;
+bool hasPassed = false;
 
 QString UserFolder() { return stage.Home + "/.local/share/quorvane"; }
 
@@ -223,6 +230,11 @@ void MakeHome() {
     QDir::setCurrent(UserFolder());
 }
 
+void SizeFrame() {
+    const auto size = all[atWork].Size;
+    if (!size.isEmpty() && frame) frame->resize(size - TitleAndEdges);
+}
+
 void End() {
     ResetLink();
     frame.reset();
@@ -234,7 +246,10 @@ void End() {
 void Begin() {
     const QScopedValueRollback busy(isBusy, true);
     static PictureDesktop pictureDesktop;
-    if (QApplication::activeModalWidget()) Fail("a dialog is still open");
+    if (QApplication::activeModalWidget() || QApplication::activePopupWidget()) {
+        steps = QStringList{"clear", "begin"} + steps;
+        return;
+    }
     End();
     QSettings().clear();
     MakeHome();
@@ -242,8 +257,10 @@ void Begin() {
     desktop = &pictureDesktop;
     ResetApplication();
     frame = std::make_unique<FrameView>();
-    Dispatch(StartProgram);
+    SizeFrame();
     frame->move(40, 40);
+    Dispatch(StartProgram);
+    DriveRoots = {{'C', ToCore(UserFolder()) + "/"}};
     frame->show();
     QCoreApplication::processEvents();
 }
@@ -287,6 +304,41 @@ void TakeFigure(const QString& width, const QString& height) {
     LinkRequest();
     figure.load(file);
     if (figure.isNull()) Fail("the engine has drawn nothing");
+}
+
+void PictureDesktop::PaintNow() {
+    QtDesktop::PaintNow();
+    if (passing.isEmpty() || !Seek(passing)) return;
+    keep(all[atWork]);
+    passing.clear();
+    hasPassed = true;
+}
+
+/// Functions that a scan of the drives finds.
+void WriteFunctions() {
+    for (const char* name :
+         {"signal/blackman", "signal/filter2", "signal/hamming", "stats/median"}) {
+        const QString function(name);
+        QDir().mkpath(UserFolder() + "/" + function.section('/', 0, 0));
+        QFile file(UserFolder() + "/" + function + ".m");
+        const auto help = "% " + function.section('/', 1).toUpper() + "(x) says what it does.\n\n";
+        if (!file.open(QIODevice::WriteOnly) || file.write(help.toUtf8()) < 0) Fail("no room");
+    }
+}
+
+/// Leaves all dialogs and menus and the windows beside the frame, and gives up what waits.
+void Clear() {
+    auto* popup = QApplication::activePopupWidget();
+    auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+    if (popup || dialog) {
+        steps.prepend("clear");
+        popup ? popup->close() : (dialog->done(QDialog::Rejected), true);
+        return;
+    }
+    for (const char* name : {"helpWindow", "frmTextResults"}) {
+        if (auto* window = Seek(name)) window->close();
+    }
+    steps.prepend("key Escape");
 }
 
 /// Does this step again until something has come about.
@@ -339,6 +391,9 @@ const std::map<QString, void (*)(Words)> vocabulary = {
     {"type", [](Words words) { TypeText(Rest(words, 0)); }},
     {"key", [](Words words) { PressKeys(QKeySequence(words.value(0))); }},
     {"drop", [](Words words) { DropExample(words.value(0)); }},
+    {"pass", [](Words words) { passing = words.value(0); }},
+    {"clear", [](Words) { Clear(); }},
+    {"functions", [](Words) { WriteFunctions(); }},
     {"figure", [](Words words) { TakeFigure(words.value(0), words.value(1)); }},
     {"until", [](Words words) { Until(Seek(words.value(0)) != nullptr); }},
     {"gone", [](Words words) { Until(Seek(words.value(0)) == nullptr); }},
@@ -359,9 +414,17 @@ void BringUp() {
     Settle();
 }
 
-void SetUp(const Picture& picture) {
-    pictureName = picture.Name;
-    if (!picture.Size.isEmpty() && frame) frame->resize(picture.Size - TitleAndEdges);
+void BeginPicture(std::size_t number) {
+    atWork = number;
+    SizeFrame();
+}
+
+void KeepPicture() {
+    if (!passing.isEmpty()) Fail(passing + " hasn't come");
+    if (std::exchange(hasPassed, false)) return;
+    SizeFrame();
+    Settle();
+    keep(all[atWork]);
 }
 
 /// "picture" and "keep", which the tables don't have, begin and end the steps of a picture.
@@ -369,9 +432,8 @@ void Do(const QString& doing) {
     step = doing;
     auto words = doing.split(' ');
     const auto verb = words.takeFirst();
-    if (verb == "picture") return SetUp(all[words[0].toUInt()]);
-    if (verb == "keep")
-        return SetUp(all[words[0].toUInt()]), Settle(), keep(all[words[0].toUInt()]);
+    if (verb == "picture") return BeginPicture(words[0].toUInt());
+    if (verb == "keep") return KeepPicture();
     const auto known = vocabulary.find(verb);
     if (known == vocabulary.end()) Fail("there is no such word");
     known->second(words);
@@ -397,7 +459,7 @@ void Next() {
     QTimer::singleShot(StepMilliseconds, qApp, Next);
     if (isBusy || !MayStart()) return;
     BringUp();
-    const QScopedValueRollback atWork(
+    const QScopedValueRollback working(
         began, {true, QApplication::activeModalWidget(), QApplication::activePopupWidget()});
     Do(steps.takeFirst());
 }
@@ -405,7 +467,7 @@ void Next() {
 }  // namespace
 
 void Fail(const QString& text) {
-    std::fprintf(stderr, "quorvane_pictures: %s: \"%s\": %s\n", qPrintable(pictureName),
+    std::fprintf(stderr, "quorvane_pictures: %s: \"%s\": %s\n", all.empty() ? "" : all[atWork].Name,
                  qPrintable(step), qPrintable(text));
     ResetLink();
     QDir(stage.Home).removeRecursively();
@@ -441,7 +503,7 @@ void PlayPictures(std::span<const Picture> pictures,
         if (isLeftOut) continue;
         steps.append(QString("picture %1").arg(i));
         for (const char* line : picture.Steps) steps.append(line);
-        steps.append(QString("keep %1").arg(i));
+        steps.append("keep");
     }
     QTimer::singleShot(0, qApp, Next);
     QCoreApplication::exec();

@@ -32,6 +32,22 @@ const Picture story[] = {
     {"docs/story/10-print.png", Page, "frmMDI preview", {"key Ctrl+P", "until preview", "wait 500"}, true},
 };
 
+// For the column of text in the help window.
+const Picture manual[] = {
+    {"resources/help/img/welcome.png", {580, 400}, "frmMDI", {"begin"}},
+    {"resources/help/img/window.png", {580, 380}, "frmMDI frmPictures", {"drop sine.qvm", "hover surface 300 200"}},
+    {"resources/help/img/tour.png", {580, 380}, "frmMDI", {"choose mnuHelpTour", "click pnlTour", "click pnlTour", "click pnlTour"}},
+    {"resources/help/img/find.png", {}, "quickPopup", {"hover surface 200 100", "key Ctrl+K", "type vec"}},
+    {"resources/help/img/plot.png", {}, "frmPlot", {
+        "key Escape", "gone quickPopup", "choose mnuOutputPlot", "until frmPlot", "pick cmbType 2-D Plot",
+        "click chkInput1(2)", "click chkInput2(1)", "pick cmbLineColor Blue", "set txtTitle A sine"}},
+    {"resources/help/img/script.png", {1100, 360}, "scriptPanel", {"click cmdOK", "click surface 400 200", "key F7", "hover box(2)"}},
+    {"resources/help/img/boxes.png", {1100, 360}, "boxesPanel", {
+        "hover surface 5 5", "key F8", "key F5", "until message", "key Return", "until frmDirectory", "item lstEngines Octave", "click cmdOK",
+        "until message", "key Return", "gone message"}, true},
+    {"resources/help/img/results.png", {}, "frmTextResults", {"wait 100"}, true},
+};
+
 const Picture covers[] = {
     {"docs/window.png", {800, 450}, "frmMDI frmPictures", {"begin", "drop spectrum.qvm"}},
     {"docs/workbench.png", {1200, 675}, "frmMDI tip pointer", {
@@ -44,6 +60,7 @@ const Picture covers[] = {
 }  // namespace
 
 std::span<const Picture> StoryPictures() { return story; }
+std::span<const Picture> ManualPictures() { return manual; }
 std::span<const Picture> CoverPictures() { return covers; }
 
 }  // namespace quorvane
