@@ -10,6 +10,7 @@
 #include <QDir>
 #include <QDropEvent>
 #include <QElapsedTimer>
+#include <QHelpEvent>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenu>
@@ -360,8 +361,17 @@ void DoubleClick(QPoint place) {
     QTest::mouseDClick(window, Qt::LeftButton, {}, window->mapFromGlobal(place));
 }
 
+/// Leaves the mouse where it is until the tool tip comes. Off-screen, at some scales, it doesn't
+/// come by itself.
+void Rest(QPoint place) {
+    MoveTo(place);
+    auto* under = QApplication::widgetAt(place);
+    QHelpEvent rests(QEvent::ToolTip, under->mapFromGlobal(place), place);
+    QCoreApplication::sendEvent(under, &rests);
+}
+
 using Words = const QStringList&;
-QString Rest(Words words, int from) { return words.mid(from).join(' '); }
+QString Tail(Words words, int from) { return words.mid(from).join(' '); }
 
 // Word, what it does with those behind it.
 const std::map<QString, void (*)(Words)> vocabulary = {
@@ -378,17 +388,18 @@ const std::map<QString, void (*)(Words)> vocabulary = {
              ClickAt(bar->mapToGlobal(bar->actionGeometry(action).center()), Qt::LeftButton);
          }
      }},
-    {"entry", [](Words words) { ClickAt(PlaceOfEntry(Rest(words, 0)), Qt::LeftButton); }},
-    {"point", [](Words words) { MoveTo(PlaceOfEntry(Rest(words, 0))); }},
+    {"entry", [](Words words) { ClickAt(PlaceOfEntry(Tail(words, 0)), Qt::LeftButton); }},
+    {"point", [](Words words) { MoveTo(PlaceOfEntry(Tail(words, 0))); }},
     {"click", [](Words words) { ClickAt(PlaceOf(words), Qt::LeftButton); }},
     {"double", [](Words words) { DoubleClick(PlaceOf(words)); }},
     {"hover", [](Words words) { MoveTo(PlaceOf(words)); }},
-    {"press", [](Words words) { ClickAt(PlaceOfButton(Rest(words, 0)), Qt::LeftButton); }},
+    {"rest", [](Words words) { Rest(PlaceOf(words)); }},
+    {"press", [](Words words) { ClickAt(PlaceOfButton(Tail(words, 0)), Qt::LeftButton); }},
     {"item",
-     [](Words words) { ClickAt(PlaceOfItem(words.value(0), Rest(words, 1)), Qt::LeftButton); }},
-    {"pick", [](Words words) { PickInCombo(words.value(0), Rest(words, 1)); }},
-    {"set", [](Words words) { SetText(words.value(0), Rest(words, 1)); }},
-    {"type", [](Words words) { TypeText(Rest(words, 0)); }},
+     [](Words words) { ClickAt(PlaceOfItem(words.value(0), Tail(words, 1)), Qt::LeftButton); }},
+    {"pick", [](Words words) { PickInCombo(words.value(0), Tail(words, 1)); }},
+    {"set", [](Words words) { SetText(words.value(0), Tail(words, 1)); }},
+    {"type", [](Words words) { TypeText(Tail(words, 0)); }},
     {"key", [](Words words) { PressKeys(QKeySequence(words.value(0))); }},
     {"drop", [](Words words) { DropExample(words.value(0)); }},
     {"pass", [](Words words) { passing = words.value(0); }},

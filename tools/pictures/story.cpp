@@ -45,7 +45,6 @@ const Picture manual[] = {
     {"resources/help/img/boxes.png", {1100, 360}, "boxesPanel", {
         "hover surface 5 5", "key F8", "key F5", "until message", "key Return", "until frmDirectory", "item lstEngines Octave", "click cmdOK",
         "until message", "key Return", "gone message"}, true},
-    {"resources/help/img/results.png", {}, "frmTextResults", {"wait 100"}, true},
 };
 
 const Picture covers[] = {
@@ -53,7 +52,7 @@ const Picture covers[] = {
     {"docs/workbench.png", {1200, 675}, "frmMDI tip pointer", {
         "begin", "drop damped_oscillation.qvm", "key F7", "key F8", "key F5", "until message", "key Return",
         "until frmDirectory", "item lstEngines Octave", "click cmdOK", "until message", "key Return", "gone message", "click cmdOK",
-        "hover box(3) 20 14", "wait 800"}, true},
+        "rest box(3) 20 14", "until qtooltip_label"}, true},
 };
 // clang-format on
 

@@ -78,7 +78,7 @@ const std::vector<Picture> windows = {
     {"findings", {}, "frmMDI", {"clear", "choose mnuOperatorsFunc", "until frmFunc", "set txtFunc nosuchthing(Input1)", "click cmdOK", "click surface 60 260"}},
     {"run", {}, "frmMDI tip", {
         "choose mnuArrow", "click box(1)", "click box(7)", "key F5", "until message", "key Return", "until frmDirectory", "item lstEngines Octave",
-        "click cmdOK", "until message", "key Return", "gone message", "hover box(7) 20 14", "wait 900"}, true},
+        "click cmdOK", "until message", "key Return", "gone message", "rest box(7) 20 14", "until qtooltip_label"}, true},
     {"results", {}, "frmTextResults", {"wait 50"}, true},
 };
 // clang-format on
