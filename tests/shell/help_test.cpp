@@ -8,6 +8,7 @@
 #include <regex>
 #include <set>
 
+#include "compile/run_compile.h"
 #include "files/work_folder.h"
 #include "support/diagram_fixture.h"
 
@@ -86,6 +87,40 @@ TEST(Manual, LinksAndPicturesLeadSomewhere) {
         const auto file = built ? icons / picture.substr(2) : ManualFolder / picture;
         EXPECT_TRUE(std::filesystem::exists(file)) << picture;
     }
+}
+
+/// Beside each diagram of the manual stands its script, as the diagram in the picture gives it.
+TEST(Manual, DiagramsGiveTheirScripts) {
+    const auto text = ReadAll(ManualFolder / "QUORVANE.HLP");
+    const auto diagrams = std::filesystem::path(QUORVANE_SOURCE_DIR) / "tools/pictures/diagrams";
+    const WorkFolder folder;
+    WriteAll(folder / "answers", "text 7\n");
+    for (const auto& entry : std::filesystem::directory_iterator(diagrams)) {
+        const auto name = entry.path().stem().string();
+        const auto run =
+            RunCompile(folder.Path, {"--answers", "answers", entry.path().string()}).Output;
+        const auto picture = "<p><img src=\"img/" + name + ".svg\"></p>\n<pre>";
+        const auto told = Replaced(Replaced(Replaced(run, "\r", ""), "<", "&lt;"), ">", "&gt;");
+        EXPECT_NE(text.find(picture + told + "</pre>"), std::string::npos) << name << "\n" << told;
+    }
+}
+
+/// README and docs/ lead to pictures and pages that are there.
+TEST(Documents, LinksAndPicturesLeadSomewhere) {
+    const std::filesystem::path root = QUORVANE_SOURCE_DIR;
+    std::vector<std::filesystem::path> pages = {root / "README.md", root / "CONTRIBUTING.md"};
+    for (const auto& entry : std::filesystem::directory_iterator(root / "docs")) {
+        if (entry.path().extension() == ".md") pages.push_back(entry.path());
+    }
+    std::size_t links = 0;
+    for (const auto& page : pages) {
+        for (const auto& link : Found(ReadAll(page), R"re(\]\(([^)#]+))re")) {
+            if (link.starts_with("http")) continue;
+            EXPECT_TRUE(std::filesystem::exists(page.parent_path() / link)) << page << " " << link;
+            ++links;
+        }
+    }
+    EXPECT_GT(links, 20U);
 }
 
 /// F1 finds a page for each dialog, panel and type of box.
