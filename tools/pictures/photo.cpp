@@ -28,6 +28,7 @@ static_assert(TitleAndEdges == QSize(2 * Edge, TitleHeight + Edge));
 struct Shot {
     QPixmap Pixels;
     QPoint At;  ///< On the screen
+    QRect Place() const { return {At, Pixels.deviceIndependentSize().toSize()}; }
 };
 
 QPixmap Blank(const QSize& size) {
@@ -165,18 +166,24 @@ QList<QRect> PlacesOf(const QList<NamedPhoto>& photos) {
 
 QImage PhotoOf(const QStringList& windows) {
     QList<Shot> shots;
-    for (const auto& name : windows) shots += ShotsOf(name);
-    const auto ground = shots.takeFirst();
-    auto picture = ground.Pixels.toImage();
-    QPainter painter(&picture);
+    QRect place;
+    for (const auto& name : windows) {
+        shots += ShotsOf(name);
+        // The toolbox stands beside the frame.
+        const bool grows = place.isNull() || name == "frmPictures";
+        if (grows) place |= shots.last().Place();
+    }
+    auto canvas = Blank(place.size());
+    canvas.fill(QApplication::palette().color(QPalette::Base));
+    QPainter painter(&canvas);
     for (const auto& shot : shots) {
-        const auto at = shot.At - ground.At;
-        const auto size = shot.Pixels.deviceIndependentSize().toSize();
-        if (!shot.Pixels.hasAlphaChannel()) PaintShadow(painter, QRect(at, size));
-        painter.drawPixmap(at, shot.Pixels);
+        const auto at = shot.Place().translated(-place.topLeft());
+        const bool isGround = &shot == &shots.constFirst();
+        if (!isGround && !shot.Pixels.hasAlphaChannel()) PaintShadow(painter, at);
+        painter.drawPixmap(at.topLeft(), shot.Pixels);
     }
     painter.end();
-    return picture.convertToFormat(QImage::Format_RGB32);
+    return canvas.toImage().convertToFormat(QImage::Format_RGB32);
 }
 
 QImage ContactSheet(const QList<NamedPhoto>& photos) {

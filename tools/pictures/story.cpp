@@ -35,7 +35,7 @@ const Picture story[] = {
 // For the column of text in the help window.
 const Picture manual[] = {
     {"resources/help/img/welcome.png", {580, 400}, "frmMDI", {"begin"}},
-    {"resources/help/img/window.png", {580, 380}, "frmMDI frmPictures", {"drop sine.qvm", "hover surface 300 200"}},
+    {"resources/help/img/window.png", {500, 340}, "frmMDI frmPictures", {"drop sine.qvm", "hover surface 300 200"}},
     {"resources/help/img/tour.png", {580, 380}, "frmMDI", {"choose mnuHelpTour", "click pnlTour", "click pnlTour", "click pnlTour"}},
     {"resources/help/img/find.png", {}, "quickPopup", {"hover surface 200 100", "key Ctrl+K", "type vec"}},
     {"resources/help/img/plot.png", {}, "frmPlot", {
@@ -48,7 +48,7 @@ const Picture manual[] = {
 };
 
 const Picture covers[] = {
-    {"docs/window.png", {800, 450}, "frmMDI frmPictures", {"begin", "drop spectrum.qvm"}},
+    {"docs/window.png", {800, 450}, "frmMDI", {"begin", "drop spectrum.qvm"}},
     {"docs/workbench.png", {1200, 675}, "frmMDI tip pointer", {
         "begin", "drop damped_oscillation.qvm", "key F7", "key F8", "key F5", "until message", "key Return",
         "until frmDirectory", "item lstEngines Octave", "click cmdOK", "until message", "key Return", "gone message", "click cmdOK",
