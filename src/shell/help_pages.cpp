@@ -33,6 +33,7 @@ constexpr PageOfWindow pagesOfWindows[] = {
     {"quickPopup", "find"},
     {"recovery", "recovery"},
     {"scriptPanel", "scriptpanel"},
+    {"welcome", "first"},
 };
 // clang-format on
 

@@ -127,7 +127,9 @@ TEST(Documents, LinksAndPicturesLeadSomewhere) {
 /// F1 finds a page for each dialog, panel and type of box.
 TEST(Manual, HasAPageForEachDialogAndBox) {
     const auto anchors = Found(ManualText(), R"re( (?:id|name)="(\w+)")re");
-    Texts windows = {"main", "frmMDI", "Picture1", "boxesPanel", "scriptPanel", "quickPopup"};
+    Texts windows = {"main",        "frmMDI",     "Picture1",  "boxesPanel",
+                     "scriptPanel", "quickPopup", "frmMatrix", "frmPageView",
+                     "frmPictures", "pnlTour",    "welcome",   "frmTextResults"};
     for (const auto& form : Forms()) windows.push_back(form.Name);
     for (const auto& window : windows) {
         if (window == "frmAbout" || window == "frmDisclaimer") continue;

@@ -76,10 +76,10 @@ const std::vector<Picture> windows = {
     {"panels", Large, "frmMDI", {"begin", "drop damped_oscillation.qvm", "key F7", "key F8", "hover box(3) 20 14"}},
     {"picture menu", {}, "frmMDI menus", {"click picture"}},
     {"findings", {}, "frmMDI", {"clear", "choose mnuOperatorsFunc", "until frmFunc", "set txtFunc nosuchthing(Input1)", "click cmdOK", "click surface 60 260"}},
-    {"run", {}, "frmMDI tip", {
+    {"results", {}, "frmTextResults", {
         "choose mnuArrow", "click box(1)", "click box(7)", "key F5", "until message", "key Return", "until frmDirectory", "item lstEngines Octave",
-        "click cmdOK", "until message", "key Return", "gone message", "rest box(7) 20 14", "until qtooltip_label"}, true},
-    {"results", {}, "frmTextResults", {"wait 50"}, true},
+        "click cmdOK", "until message", "key Return", "gone message"}, true},
+    {"run", {}, "frmMDI tip", {"click cmdOK", "rest box(7) 20 14", "until qtooltip_label"}, true},
 };
 // clang-format on
 
