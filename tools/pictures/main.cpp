@@ -11,13 +11,14 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QStyle>
-#include <QStyleFactory>
+
 #include <algorithm>
 #include <cstdio>
 
 #include "photo.h"
 #include "picture.h"
 #include "player.h"
+#include "qt/desktop/program_style.h"
 
 namespace quorvane {
 
@@ -89,7 +90,7 @@ void SetEnvironment(const QString& home, const char* scale) {
 }
 
 void SetLooks(bool isDark) {
-    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setStyle(new ProgramStyle);
     QApplication::setPalette(isDark ? DarkPalette() : LightPalette());
     constexpr int points = 9;
     QApplication::setFont(QFont("DejaVu Sans", points));
