@@ -69,6 +69,7 @@ const std::vector<Picture> windows = {
     Dialog("colors", "key Ctrl+L"),
     {"print preview", {}, "preview", {"clear", "key Ctrl+P", "until preview", "wait 500"}},
     {"helpWindow", {}, "helpWindow", {"clear", "choose mnuHelpContents", "wait 300"}},
+    {"first page", {}, "helpWindow", {"item helpContents Your first diagram", "wait 300"}},
     {"help on a box", {}, "helpWindow", {"clear", "hover box(4) 8 8", "key F1", "wait 300"}},
     {"frmMatrix", {}, "frmMatrix", {"clear", "key Ctrl+N", "choose mnuInputKeyboardMatrix", "click surface 40 40", "choose mnuExeDDE", "until frmMatrix", "type 1", "key Tab", "type 2"}},
     {"message", {}, "message", {"click cmdOK", "until message"}},
