@@ -15,7 +15,6 @@ namespace quorvane {
 
 namespace {
 
-constexpr QColor DeskColor(0xE4, 0xE6, 0xE8);
 constexpr QColor SeenColor(0x2A, 0x7B, 0xC8);
 constexpr QColor EdgeColor(0x9A, 0xA0, 0xA6);
 
@@ -99,7 +98,8 @@ PageViewDialog::PageViewDialog(int zoom, QWidget* parent) : QDialog(parent), zoo
 
 void PageViewDialog::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.fillRect(rect(), DeskColor);
+    constexpr int shade = 110;
+    painter.fillRect(rect(), palette().color(QPalette::Window).darker(shade));
     const auto page = InPixels(frmPageView.Page, 100);
     painter.fillRect(page, Qt::white);
     painter.setPen(EdgeColor);

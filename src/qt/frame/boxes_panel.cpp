@@ -90,6 +90,8 @@ BoxesPanel::BoxesPanel(QWidget* parent) : QWidget(parent) {
     boxes_->setObjectName("boxes");
     boxes_->setAccessibleName("Boxes");
     boxes_->setHeaderLabels({"Box", "Type", "Text", "From", "To", "Last value"});
+    constexpr int indentation = 12;
+    boxes_->setIndentation(indentation);
     boxes_->setAllColumnsShowFocus(true);
     boxes_->setIconSize(QSize(CurveWidth, FaceSide));
     // Values stand where a narrow panel shows them, and take no room before there are any.

@@ -91,8 +91,8 @@ void Tile(const QList<QMdiSubWindow*>& windows, const QRect& space) {
 }
 
 /// Of the panels beside the worksheets, until the user moves their edges.
-constexpr int PanelWidth = 320;
-constexpr int BoxesWidth = 380;
+constexpr int PanelWidth = 290;
+constexpr int BoxesWidth = 360;
 
 /// A worksheet's window; its document decides whether it closes.
 class WorksheetWindow : public QMdiSubWindow {

@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSplitter>
 #include <QStatusBar>
 #include <QTextBlock>
@@ -15,7 +16,9 @@
 #include <QToolBar>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
+#include <QUrl>
 
+#include "qt/desktop/icon_strip.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/frame/frame_view.h"
 #include "shell/manual_index.h"
@@ -36,6 +39,20 @@ const char* const HowToText =
     "<p>To look for a word, type it in the field above and press Enter. Each further Enter goes to "
     "the next place.</p>";
 
+constexpr int IconSide = 32;
+
+/// The pictures of the boxes stand on paper, as in menus and lists: their ink is for a light
+/// ground.
+class ManualBrowser : public QTextBrowser {
+protected:
+    QVariant loadResource(int type, const QUrl& url) override {
+        static const QRegularExpression icon("^/icons/(\\d+)\\.svg$");
+        const auto found = icon.match(url.path());
+        if (!found.hasMatch()) return QTextBrowser::loadResource(type, url);
+        return CellOnPaper(found.captured(1).toInt(), IconSide, devicePixelRatioF());
+    }
+};
+
 QPointer<HelpWindow> helpWindow;
 
 }  // namespace
@@ -48,7 +65,7 @@ HelpWindow::HelpWindow(QWidget* parent) : QMainWindow(parent, Qt::Window) {
     contents_->setObjectName("helpContents");
     contents_->setAccessibleName("Contents");
     contents_->setHeaderHidden(true);
-    text_ = new QTextBrowser;
+    text_ = new ManualBrowser;
     text_->setObjectName("helpText");
     text_->setOpenExternalLinks(true);
     splitter->addWidget(contents_);
