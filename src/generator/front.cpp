@@ -30,7 +30,9 @@ std::int16_t* FindSlot(std::int16_t* at, std::int16_t* end, std::int16_t box) {
     constexpr int block = 16;
     for (; end - at >= block; at += block) {
         std::int16_t found = 0;  // as wide as a slot, or they are compared one by one
-        for (int k = 0; k < block; ++k) found |= static_cast<std::int16_t>(at[k] == box);
+        for (int k = 0; k < block; ++k) {
+            found = static_cast<std::int16_t>(found | static_cast<int>(at[k] == box));
+        }
         if (found != 0) break;
     }
     return std::find(at, end, box);

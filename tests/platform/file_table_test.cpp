@@ -57,7 +57,7 @@ protected:
         });
     }
     /// A step with a file and what stands behind its name.
-    static Word OfFile(std::function<void(const std::string&, const std::string&)> step) {
+    static Word OfFile(const std::function<void(const std::string&, const std::string&)>& step) {
         return Step([step](A a) {
             auto rest = a.Text;
             const auto file = TakeWord(rest);

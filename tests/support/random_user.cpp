@@ -34,7 +34,7 @@ std::string RandomUser::InputBox(const std::string&, const std::string&, const s
 }
 
 std::string RandomUser::OpenFileDialog(const std::string&, const std::string&) {
-    const std::string file = files[Any(2)];
+    std::string file = files[Any(2)];
     if (!std::filesystem::exists(file)) throw RuntimeError(32755);
     return file;
 }

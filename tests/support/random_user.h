@@ -22,7 +22,7 @@ struct RandomUser : QuietDesktop {
     std::string OpenFileDialog(const std::string&, const std::string&) override;
     std::string SaveFileDialog(const std::string&, const std::string&) override;
     std::int32_t ColorDialog(std::int32_t start) override;
-    void ShowModal(std::string_view form) override;
+    void ShowModal(std::string_view name) override;
 
     /// A number from 0 to `below` - 1.
     int Any(int below) { return static_cast<int>(chance() % static_cast<unsigned>(below)); }
