@@ -171,7 +171,7 @@ void BoxView::SetMarks(const std::string& finding) {
 /// The tool tip stands below the bubble.
 bool BoxView::event(QEvent* event) {
     if (event->type() != QEvent::ToolTip || toolTip().isEmpty()) return QWidget::event(event);
-    constexpr int apart = 14;
+    constexpr int apart = 8;
     QToolTip::showText(mapToGlobal(QPoint(width(), height() + apart)), toolTip(), this);
     return true;
 }
