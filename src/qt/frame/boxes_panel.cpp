@@ -81,10 +81,11 @@ QString Sentence(const OutlineRow& row) {
 BoxesPanel::BoxesPanel(QWidget* parent) : QWidget(parent) {
     setObjectName("boxesPanel");
     setAccessibleName("Boxes");
-    filter_ = new QLineEdit(this);
+    auto* filter = new HintField(this);
+    filter_ = filter;
     filter_->setObjectName("filter");
     filter_->setAccessibleName("Show only boxes with this text");
-    ShowHint(filter_, "Show only boxes with ...");
+    filter->SetHint("Show only boxes with ...");
     filter_->setClearButtonEnabled(true);
     boxes_ = new QTreeWidget(this);
     boxes_->setObjectName("boxes");

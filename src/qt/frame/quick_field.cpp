@@ -3,7 +3,9 @@
 
 #include <QKeyEvent>
 #include <QListWidget>
+#include <QPixmap>
 #include <QScreen>
+#include <QStyleOptionFrame>
 #include <QVBoxLayout>
 
 #include "qt/desktop/dispatch.h"
@@ -21,16 +23,41 @@ constexpr int FaceSide = 24;
 /// Wide enough for most commands with their menu.
 constexpr int PopupWidth = 480;
 
+/// A row without a picture has an empty one, so that all texts start at the same place.
+QPixmap RowFace(const QuickRow& row, qreal ratio) {
+    if (row.Picture > 0) return CellOnPaper(row.Picture, FaceSide, ratio);
+    QPixmap empty(QSize(FaceSide, FaceSide) * ratio);
+    empty.setDevicePixelRatio(ratio);
+    empty.fill(Qt::transparent);
+    return empty;
+}
+
 }  // namespace
 
-void ShowHint(QLineEdit* field, const QString& hint) {
-    field->setPlaceholderText(hint);
-    auto colors = field->palette();
+void HintField::SetHint(const QString& hint) {
+    hint_ = hint;
+    auto colors = palette();
     auto faint = colors.color(QPalette::Text);
     constexpr int alpha = 150;
     faint.setAlpha(alpha);
     colors.setColor(QPalette::PlaceholderText, faint);
-    field->setPalette(colors);
+    setPalette(colors);
+    FitHint();
+}
+
+void HintField::resizeEvent(QResizeEvent* event) {
+    QLineEdit::resizeEvent(event);
+    FitHint();
+}
+
+/// Qt would shorten a hint that is too long.
+void HintField::FitHint() {
+    constexpr int beside = 2;
+    QStyleOptionFrame option;
+    initStyleOption(&option);
+    const auto inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
+    const bool fits = fontMetrics().horizontalAdvance(hint_) <= inside.width() - 2 * beside;
+    setPlaceholderText(fits ? hint_ : QString());
 }
 
 QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
@@ -38,7 +65,7 @@ QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
     setAccessibleName("Find");
     setFrameShape(QFrame::StyledPanel);
     setFixedWidth(PopupWidth);
-    text_ = new QLineEdit(this);
+    text_ = new HintField(this);
     text_->setObjectName("quickText");
     text_->setAccessibleName("Find");
     text_->installEventFilter(this);
@@ -62,7 +89,7 @@ QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
 
 void QuickPopup::Open(QPoint at, const QString& text, bool boxesOnly) {
     boxesOnly_ = boxesOnly;
-    ShowHint(text_, boxesOnly ? "Find a box" : "Find a command, an option or a box");
+    text_->SetHint(boxesOnly ? "Find a box" : "Find a command, an option or a box");
     text_->setText(text);
     Find();
     const auto room = screen()->availableGeometry();
@@ -80,7 +107,7 @@ void QuickPopup::Find() {
         auto* item = new QListWidgetItem(
             ToScreen(row.Text).simplified() + "  -  " + ToScreen(row.Where), list_);
         item->setSizeHint(QSize(0, FaceSide + 4));
-        if (row.Picture > 0) item->setIcon(CellOnPaper(row.Picture, FaceSide, devicePixelRatioF()));
+        item->setIcon(RowFace(row, devicePixelRatioF()));
     }
     if (rows_.empty() && !text_->text().isEmpty()) {
         (new QListWidgetItem("Nothing fits", list_))->setFlags(Qt::ItemIsEnabled);
@@ -127,10 +154,10 @@ bool QuickPopup::eventFilter(QObject* watched, QEvent* event) {
     }
 }
 
-QuickField::QuickField(QWidget* parent, QuickPopup* popup) : QLineEdit(parent) {
+QuickField::QuickField(QWidget* parent, QuickPopup* popup) : HintField(parent) {
     setObjectName("quick");
     setAccessibleName("Find a command, an option or a box");
-    ShowHint(this, "Find a command or a box");
+    SetHint("Find a command or a box");
     setToolTip(
         "Runs a command, picks an option, shows a box (Ctrl+K at the mouse, Ctrl+F for boxes)");
     connect(this, &QLineEdit::textEdited, this, [this, popup](const QString& text) {

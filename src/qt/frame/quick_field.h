@@ -11,8 +11,21 @@ class QListWidget;
 
 namespace quorvane {
 
-/// Shows a hint in a field as long as that is empty. Some dark themes would leave it black.
-void ShowHint(QLineEdit* field, const QString& hint);
+/// A field that shows a hint as long as it is empty and has room for all of it. Some dark themes
+/// would leave the hint black.
+class HintField : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+    void SetHint(const QString& hint);
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void FitHint();
+
+    QString hint_;
+};
 
 /// The small window in which something is looked for: a line to type into, and what fits below it.
 /// Enter or a click chooses, Escape leaves.
@@ -29,14 +42,14 @@ private:
     void Find();
     void Choose(int row);
 
-    QLineEdit* text_;
+    HintField* text_;
     QListWidget* list_;
     std::vector<QuickRow> rows_;
     bool boxesOnly_ = false;
 };
 
 /// The field "quick" on the bar: what is typed into it opens the pop-up over it.
-class QuickField : public QLineEdit {
+class QuickField : public HintField {
 public:
     QuickField(QWidget* parent, QuickPopup* popup);
 };
