@@ -32,14 +32,22 @@ namespace {
 /// What a notch of the wheel moves the sheet by: somewhat more than a box.
 constexpr int NotchUnits = 600;
 
-/// The face of pnlArrow: the line colour, and the arrow while multiple arrows are on.
+/// The face of pnlArrow: the line colour with an edge that softens it, and the arrow while multiple
+/// arrows are on.
 QIcon ArrowPanelFace(const ArrowPanel& panel, const QSize& size, qreal ratio) {
     QPixmap face(size * ratio);
     face.setDevicePixelRatio(ratio);
-    face.fill(ColorOf(panel.BackColor));
+    face.fill(Qt::transparent);
+    const auto color = ColorOf(panel.BackColor);
+    auto edge = QColor(color.lightness() < 128 ? Qt::white : Qt::black);
+    edge.setAlphaF(0.5F);
+    QPainter painter(&face);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(edge);
+    painter.setBrush(color);
+    painter.drawRoundedRect(QRectF({}, size).adjusted(0.5, 0.5, -0.5, -0.5), 2, 2);
     if (panel.HoldsArrow) {
         const int side = qMin(size.width(), size.height());
-        QPainter painter(&face);
         painter.drawPixmap((size.width() - side) / 2, 0,
                            CellPixmap(IconCell("Arrow"), side, ratio));
     }
