@@ -12,11 +12,12 @@ namespace {
 
 class SvgIconEngine : public QIconEngine {
 public:
-    explicit SvgIconEngine(const QString& file) : file_(file) {}
+    SvgIconEngine(const QString& file, const QColor& ground) : file_(file), ground_(ground) {}
 
     void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State) override {
         constexpr double faint = 0.35;
         if (mode == QIcon::Disabled) painter->setOpacity(faint);
+        painter->fillRect(rect, ground_);
         painter->setRenderHint(QPainter::Antialiasing);
         QSvgRenderer drawing(file_);
         drawing.setAspectRatioMode(Qt::KeepAspectRatio);
@@ -33,10 +34,13 @@ public:
 
 private:
     QString file_;
+    QColor ground_;
 };
 
 }  // namespace
 
-QIcon SvgIcon(const QString& name) { return QIcon(new SvgIconEngine(":/" + name + ".svg")); }
+QIcon SvgIcon(const QString& name, const QColor& ground) {
+    return QIcon(new SvgIconEngine(":/" + name + ".svg", ground));
+}
 
 }  // namespace quorvane

@@ -9,6 +9,7 @@
 #include <QGridLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QScrollBar>
 #include <QShowEvent>
 #include <QVBoxLayout>
 #include <functional>
@@ -18,6 +19,7 @@
 #include "qt/desktop/dispatch.h"
 #include "qt/desktop/screen_units.h"
 #include "qt/desktop/svg_icon.h"
+#include "qt/sheet/sheet_marks.h"
 #include "shell/frame.h"
 #include "shell/tour.h"
 #include "workbench/examples.h"
@@ -27,8 +29,9 @@ namespace quorvane {
 namespace {
 
 constexpr int Gap = 32;
+/// What Qt leaves to the left of a command link's icon.
+constexpr int LinkMargin = 7;
 constexpr int CommandsWidth = 300;
-constexpr int ExampleWidth = 270;
 constexpr QSize CommandFace(24, 24);
 constexpr QSize PictureSize(132, 88);
 
@@ -37,8 +40,15 @@ void StartTour() {
     mnuHelpTour_Click(DocumentWindow(document));
 }
 
-QLabel* Heading(const QString& text, int points) {
+/// A line of text that starts where the icons below it do.
+QLabel* Line(const QString& text) {
     auto* label = new QLabel(text);
+    label->setContentsMargins(LinkMargin, 0, 0, 0);
+    return label;
+}
+
+QLabel* Heading(const QString& text, int points) {
+    auto* label = Line(text);
     auto font = label->font();
     font.setPointSize(font.pointSize() + points);
     font.setBold(true);
@@ -104,7 +114,7 @@ bool WelcomeView::eventFilter(QObject* watched, QEvent* event) {
 void WelcomeView::List() {
     auto* page = new QWidget;
     parts_ = new QBoxLayout(QBoxLayout::LeftToRight, page);
-    parts_->setContentsMargins(Gap, Gap, Gap, Gap);
+    parts_->setContentsMargins(Gap - LinkMargin, Gap, Gap, Gap);
     parts_->setSpacing(Gap);
     parts_->addWidget(Commands());
     parts_->addWidget(ExampleList(), 1);
@@ -117,10 +127,14 @@ void WelcomeView::List() {
 /// In a narrow frame the examples stand below the commands; in a wide one they take more columns.
 void WelcomeView::Arrange() {
     if (!parts_) return;
-    const bool isNarrow = width() < CommandsWidth + ExampleWidth + 3 * Gap;
+    int example = 0;
+    for (auto* button : examples_) example = qMax(example, button->minimumSizeHint().width());
+    const int inside = width() - verticalScrollBar()->sizeHint().width() - 2 * Gap + LinkMargin;
+    const bool isNarrow = inside < CommandsWidth + Gap + example;
     parts_->setDirection(isNarrow ? QBoxLayout::TopToBottom : QBoxLayout::LeftToRight);
-    const int room = width() - 2 * Gap - (isNarrow ? 0 : CommandsWidth + Gap);
-    const int columns = qMax(1, room / ExampleWidth);
+    const int room = inside - (isNarrow ? 0 : CommandsWidth + Gap);
+    const int between = grid_->horizontalSpacing();
+    const int columns = qMax(1, (room + between) / qMax(1, example + between));
     for (int i = 0; i < examples_.size(); ++i) {
         grid_->addWidget(examples_[i], i / columns, i % columns);
     }
@@ -140,7 +154,7 @@ QWidget* WelcomeView::Commands() {
     auto* rows = new QVBoxLayout(column);
     rows->setContentsMargins(0, 0, 0, 0);
     rows->addWidget(Heading("Quorvane", 10));
-    rows->addWidget(new QLabel("Draw the calculation, get the script."));
+    rows->addWidget(Line("Draw the calculation, get the script."));
     rows->addSpacing(Gap / 2);
     auto* first = LinkButton("welcomeNew", "New worksheet", "Ctrl+N", mnuFileNew_Click);
     first->setIcon(SvgIcon("bar/new"));
@@ -190,7 +204,7 @@ QWidget* WelcomeView::ExampleList() {
                        ToScreen(example.Line), [name = example.File] { LoadDocumentFile(name); });
         button->setIconSize(PictureSize);
         const auto picture = "examples/" + QFileInfo(file).completeBaseName();
-        if (QFile::exists(":/" + picture + ".svg")) button->setIcon(SvgIcon(picture));
+        if (QFile::exists(":/" + picture + ".svg")) button->setIcon(SvgIcon(picture, SheetColor));
         grid_->addWidget(button, i, 0);
         examples_.append(button);
     }
