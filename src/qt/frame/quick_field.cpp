@@ -34,8 +34,9 @@ QPixmap RowFace(const QuickRow& row, qreal ratio) {
 
 }  // namespace
 
-void HintField::SetHint(const QString& hint) {
+void HintField::SetHint(const QString& hint, const QString& brief) {
     hint_ = hint;
+    brief_ = brief;
     auto colors = palette();
     auto faint = colors.color(QPalette::Text);
     constexpr int alpha = 150;
@@ -57,7 +58,7 @@ void HintField::FitHint() {
     initStyleOption(&option);
     const auto inside = style()->subElementRect(QStyle::SE_LineEditContents, &option, this);
     const bool fits = fontMetrics().horizontalAdvance(hint_) <= inside.width() - 2 * beside;
-    setPlaceholderText(fits ? hint_ : QString());
+    setPlaceholderText(fits ? hint_ : brief_);
 }
 
 QuickPopup::QuickPopup(QWidget* frame) : QFrame(frame, Qt::Popup) {
@@ -157,7 +158,7 @@ bool QuickPopup::eventFilter(QObject* watched, QEvent* event) {
 QuickField::QuickField(QWidget* parent, QuickPopup* popup) : HintField(parent) {
     setObjectName("quick");
     setAccessibleName("Find a command, an option or a box");
-    SetHint("Find a command or a box");
+    SetHint("Find a command or a box", "Find ...");
     setToolTip(
         "Runs a command, picks an option, shows a box (Ctrl+K at the mouse, Ctrl+F for boxes)");
     connect(this, &QLineEdit::textEdited, this, [this, popup](const QString& text) {

@@ -16,7 +16,8 @@ namespace quorvane {
 class HintField : public QLineEdit {
 public:
     using QLineEdit::QLineEdit;
-    void SetHint(const QString& hint);
+    /// The brief one stands where the other doesn't fit.
+    void SetHint(const QString& hint, const QString& brief = {});
 
 protected:
     void resizeEvent(QResizeEvent* event) override;
@@ -24,7 +25,7 @@ protected:
 private:
     void FitHint();
 
-    QString hint_;
+    QString hint_, brief_;
 };
 
 /// The small window in which something is looked for: a line to type into, and what fits below it.
