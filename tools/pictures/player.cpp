@@ -120,7 +120,7 @@ void ClickAt(QPoint place, Qt::MouseButton button) {
 }
 
 /// "NAME", at its left end, where check boxes have their box; "NAME X Y".
-QPoint PlaceOf(const QStringList& words) {
+QPoint SpotOf(const QStringList& words) {
     auto& widget = Find(words.value(0));
     const bool isGiven = words.size() > 2;
     const QPoint inside = isGiven ? QPoint(words[1].toInt(), words[2].toInt())
@@ -168,7 +168,7 @@ void GoToEntry(const QString& control, const QString& last) {
 }
 
 /// The place of an entry, by its control or the beginning of its text, in the menus that are open.
-QPoint PlaceOfEntry(const QString& name) {
+QPoint SpotOfEntry(const QString& name) {
     for (auto* window : QApplication::topLevelWidgets()) {
         auto* menu = qobject_cast<QMenu*>(window);
         if (!menu || !menu->isVisible()) continue;
@@ -181,7 +181,7 @@ QPoint PlaceOfEntry(const QString& name) {
     Fail("no open menu has " + name);
 }
 
-QPoint PlaceOfItem(const QString& list, const QString& text) {
+QPoint SpotOfItem(const QString& list, const QString& text) {
     auto* view = qobject_cast<QAbstractItemView*>(&Find(list));
     if (!view) Fail(list + " is no list");
     const auto* model = view->model();
@@ -205,7 +205,7 @@ void PickInCombo(const QString& name, const QString& text) {
     }
 }
 
-QPoint PlaceOfButton(const QString& text) {
+QPoint SpotOfButton(const QString& text) {
     auto* dialog = QApplication::activeModalWidget();
     if (!dialog) Fail("no dialog is open");
     for (auto* button : dialog->findChildren<QPushButton*>()) {
@@ -350,7 +350,7 @@ void Until(bool hasCome) {
 }
 
 void SetText(const QString& field, const QString& text) {
-    ClickAt(PlaceOf({field}), Qt::LeftButton);
+    ClickAt(SpotOf({field}), Qt::LeftButton);
     PressKeys(QKeySequence::SelectAll);
     text.isEmpty() ? PressKeys(Qt::Key_Delete) : TypeText(text);
 }
@@ -388,15 +388,15 @@ const std::map<QString, void (*)(Words)> vocabulary = {
              ClickAt(bar->mapToGlobal(bar->actionGeometry(action).center()), Qt::LeftButton);
          }
      }},
-    {"entry", [](Words words) { ClickAt(PlaceOfEntry(Tail(words, 0)), Qt::LeftButton); }},
-    {"point", [](Words words) { MoveTo(PlaceOfEntry(Tail(words, 0))); }},
-    {"click", [](Words words) { ClickAt(PlaceOf(words), Qt::LeftButton); }},
-    {"double", [](Words words) { DoubleClick(PlaceOf(words)); }},
-    {"hover", [](Words words) { MoveTo(PlaceOf(words)); }},
-    {"rest", [](Words words) { Rest(PlaceOf(words)); }},
-    {"press", [](Words words) { ClickAt(PlaceOfButton(Tail(words, 0)), Qt::LeftButton); }},
+    {"entry", [](Words words) { ClickAt(SpotOfEntry(Tail(words, 0)), Qt::LeftButton); }},
+    {"point", [](Words words) { MoveTo(SpotOfEntry(Tail(words, 0))); }},
+    {"click", [](Words words) { ClickAt(SpotOf(words), Qt::LeftButton); }},
+    {"double", [](Words words) { DoubleClick(SpotOf(words)); }},
+    {"hover", [](Words words) { MoveTo(SpotOf(words)); }},
+    {"rest", [](Words words) { Rest(SpotOf(words)); }},
+    {"press", [](Words words) { ClickAt(SpotOfButton(Tail(words, 0)), Qt::LeftButton); }},
     {"item",
-     [](Words words) { ClickAt(PlaceOfItem(words.value(0), Tail(words, 1)), Qt::LeftButton); }},
+     [](Words words) { ClickAt(SpotOfItem(words.value(0), Tail(words, 1)), Qt::LeftButton); }},
     {"pick", [](Words words) { PickInCombo(words.value(0), Tail(words, 1)); }},
     {"set", [](Words words) { SetText(words.value(0), Tail(words, 1)); }},
     {"type", [](Words words) { TypeText(Tail(words, 0)); }},
